@@ -1,0 +1,7 @@
+#include "KnxConverter.h"
+
+namespace Nelmo {
+
+KnxConverter::~KnxConverter() = default;
+
+}  // namespace Nelmo

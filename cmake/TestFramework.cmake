@@ -1,0 +1,25 @@
+# GoogleTest: Debian's prebuilt libraries on the host; for a cross build the
+# sources that Debian's googletest package installs, built for the target.
+if(CMAKE_CROSSCOMPILING)
+  set(INSTALL_GTEST OFF CACHE BOOL "" FORCE)
+  set(BUILD_GMOCK ON CACHE BOOL "" FORCE)
+  add_subdirectory(/usr/src/googletest ${CMAKE_BINARY_DIR}/googletest EXCLUDE_FROM_ALL)
+  add_library(GTest::gtest_main ALIAS gtest_main)
+  add_library(GTest::gmock ALIAS gmock)
+else()
+  find_package(GTest REQUIRED)
+endif()
+find_package(Threads REQUIRED)
+include(GoogleTest)
+
+# One test program per source directory: every *Test.cpp below DIR.
+function(knxconv_add_test_suite name dir)
+  file(GLOB_RECURSE _sources CONFIGURE_DEPENDS ${dir}/*.cpp)
+  if(NOT _sources)
+    return()
+  endif()
+  add_executable(${name} ${_sources})
+  target_link_libraries(${name} PRIVATE ${ARGN} TestSupport GTest::gtest_main GTest::gmock Threads::Threads)
+  knxconv_set_warnings(${name})
+  gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 120)
+endfunction()
