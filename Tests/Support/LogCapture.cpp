@@ -3,17 +3,16 @@
 namespace TestSupport {
 
 void PrintTo(const LogLine& line, std::ostream* out) {
-  *out << "{level " << line.level << ", \"" << line.file << "\", \"" << line.function << "\", \"" << line.text
-       << "\"}";
+  *out << "{level " << line.level << ", \"" << line.file << "\", \"" << line.function << "\", \"" << line.text << "\"}";
 }
 
 LogCapture::LogCapture(int threshold) : m_previousThreshold(UloLogGetThreshold()) {
   UloLogSetThreshold(threshold);
-  UloLogSetSink([this](UloLogLevel level, std::string_view file, std::string_view function, std::string_view text,
-                       int /*line*/) {
-    std::lock_guard<std::mutex> lock(m_mutex);
-    m_lines.push_back(LogLine{level, std::string(file), std::string(function), std::string(text)});
-  });
+  UloLogSetSink(
+      [this](UloLogLevel level, std::string_view file, std::string_view function, std::string_view text, int /*line*/) {
+        std::lock_guard<std::mutex> lock(m_mutex);
+        m_lines.push_back(LogLine{level, std::string(file), std::string(function), std::string(text)});
+      });
 }
 
 LogCapture::~LogCapture() {

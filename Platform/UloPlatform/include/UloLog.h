@@ -22,6 +22,6 @@ int UloLogGetThreshold();
 
 // Receives every active message instead of standard error; an empty sink
 // restores standard error. The sink may be called from several threads.
-using UloLogSink =
-    std::function<void(UloLogLevel level, std::string_view file, std::string_view function, std::string_view text, int line)>;
+using UloLogSink = std::function<void(UloLogLevel level, std::string_view file, std::string_view function,
+                                      std::string_view text, int line)>;
 void UloLogSetSink(UloLogSink sink);
