@@ -25,7 +25,8 @@ class NELMO_EXPORT Weekdays {
     NoDay = 1024,
   };
 
-  enum FORMAT {
+  // Any value other than FORMAT_LETTERS writes flags.
+  enum FORMAT : int {
     FORMAT_LETTERS = 0,
     FORMAT_FLAGS = 1,
   };
@@ -51,7 +52,9 @@ class NELMO_EXPORT Weekdays {
 
   void Set(Days days, bool on);
   std::string Format(FORMAT format) const;
+  // The first day of the set, Monday first, whose bit is not below from.
   std::optional<Days> GetFirst(Days from) const;
+  // The next day of the set after day, cyclically; NoDay when there is none.
   Days GetNext(Days day) const noexcept;
 
   static Weekdays GetWeekdayFromString(std::string_view text);
