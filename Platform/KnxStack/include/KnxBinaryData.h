@@ -6,32 +6,47 @@
 
 namespace KnxStack {
 
-// A byte buffer. Up to 14 bytes live inline; longer payloads (variable
+class GroupValue;
+
+// A byte buffer. Up to 14 bytes live inline, so the payloads of all fixed
+// size DPTs are copied without touching the heap; longer payloads (variable
 // length DPTs) are kept on the heap.
 class BinaryData {
  public:
   static constexpr unsigned int InlineCapacity = 14;
 
   BinaryData() = default;
+  // Copies length bytes from data. A null data pointer gives empty data,
+  // whatever the length: callers pass buffers straight from the bus, and an
+  // absent buffer is no reason to bring the process down.
   BinaryData(const unsigned char* data, unsigned int length);
   BinaryData(const BinaryData& other);
+  // The moved-from buffer is left empty.
   BinaryData(BinaryData&& other) noexcept;
   BinaryData& operator=(const BinaryData& other);
   BinaryData& operator=(BinaryData&& other) noexcept;
   ~BinaryData();
 
   unsigned int GetLength() const { return m_length; }
+  // Never null, also when the buffer is empty.
   const unsigned char* GetData() const;
   bool IsEmpty() const { return m_length == 0; }
-  unsigned char operator[](unsigned int index) const { return GetData()[index]; }
+  // An index at or beyond GetLength() reads 0 instead of past the end.
+  unsigned char operator[](unsigned int index) const { return index < m_length ? GetData()[index] : 0; }
 
-  // Upper-case hexadecimal pairs separated by single spaces ("0C 33").
+  // Upper-case hexadecimal pairs separated by single spaces ("0C 33"); ""
+  // when empty.
   std::string ToString() const;
 
   bool operator==(const BinaryData& other) const;
   bool operator!=(const BinaryData& other) const { return !(*this == other); }
 
  private:
+  friend class GroupValue;
+
+  unsigned char* MutableData() { return m_heap ? m_heap.get() : m_inline; }
+  void CopyFrom(const unsigned char* data, unsigned int length);
+
   unsigned int m_length = 0;
   unsigned char m_inline[InlineCapacity] = {};
   std::unique_ptr<unsigned char[]> m_heap;
