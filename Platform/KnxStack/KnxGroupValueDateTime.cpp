@@ -1,0 +1,142 @@
+// The date and time accessors of GroupValue. They carry full years and plain
+// numbers; validating a calendar date is left to the callers.
+#include <cstddef>
+#include <string>
+
+#include "KnxGroupValue.h"
+
+namespace KnxStack {
+
+namespace {
+
+constexpr unsigned int DateBits = 24;
+constexpr unsigned int TimeOfDayBits = 24;
+constexpr unsigned int DateTimeBits = 64;
+
+struct Field {
+  const char* name;
+  int value;
+  unsigned int bits;
+};
+
+void CheckFits(const Field& field) {
+  if (field.value < 0 || field.value >= (1 << field.bits)) {
+    throw GroupValueException("GroupValue: " + std::string(field.name) + " " + std::to_string(field.value) +
+                              " does not fit " + std::to_string(field.bits) + " bits");
+  }
+}
+
+template <std::size_t Count>
+void CheckFits(const Field (&fields)[Count]) {
+  for (const Field& field : fields) {
+    CheckFits(field);
+  }
+}
+
+void CheckYear(int year, int first, int last) {
+  if (year < first || year > last) {
+    throw GroupValueException("GroupValue: year " + std::to_string(year) + " is outside " + std::to_string(first) +
+                              " to " + std::to_string(last));
+  }
+}
+
+template <typename T>
+void Put(T* target, T value) {
+  if (target != nullptr) {
+    *target = value;
+  }
+}
+
+// Day of week in bits 7-5, hour in bits 4-0.
+unsigned char DayAndHour(int hour, GroupValue::DayOfWeek dayOfWeek) {
+  return static_cast<unsigned char>(dayOfWeek << 5 | hour);
+}
+
+void GetDayAndHour(unsigned char byte, int* hour, GroupValue::DayOfWeek* dayOfWeek) {
+  Put(hour, byte & 0x1F);
+  Put(dayOfWeek, static_cast<GroupValue::DayOfWeek>(byte >> 5));
+}
+
+unsigned char Flag(bool value, unsigned int bit) {
+  return static_cast<unsigned char>(value ? 1u << bit : 0u);
+}
+
+void GetFlag(unsigned char byte, unsigned int bit, bool* flag) {
+  Put(flag, ((byte >> bit) & 1u) != 0);
+}
+
+}  // namespace
+
+void GroupValue::GetAsDate(int* day, int* month, int* year) const {
+  const unsigned char* bytes = Payload(DateBits);
+  const int twoDigitYear = bytes[2] & 0x7F;
+  Put(day, bytes[0] & 0x1F);
+  Put(month, bytes[1] & 0x0F);
+  Put(year, twoDigitYear >= 90 ? 1900 + twoDigitYear : 2000 + twoDigitYear);
+}
+
+void GroupValue::SetAsDate(int day, int month, int year) {
+  CheckFits({{"day", day, 5}, {"month", month, 4}});
+  CheckYear(year, 1990, 2089);
+  const unsigned char bytes[] = {static_cast<unsigned char>(day), static_cast<unsigned char>(month),
+                                 static_cast<unsigned char>(year % 100)};
+  Store(bytes, DateBits);
+}
+
+void GroupValue::GetAsTimeOfDay(int* hour, int* minute, int* second, DayOfWeek* dayOfWeek) const {
+  const unsigned char* bytes = Payload(TimeOfDayBits);
+  GetDayAndHour(bytes[0], hour, dayOfWeek);
+  Put(minute, bytes[1] & 0x3F);
+  Put(second, bytes[2] & 0x3F);
+}
+
+void GroupValue::SetAsTimeOfDay(int hour, int minute, int second, DayOfWeek dayOfWeek) {
+  CheckFits({{"hour", hour, 5}, {"minute", minute, 6}, {"second", second, 6}, {"day of week", dayOfWeek, 3}});
+  const unsigned char bytes[] = {DayAndHour(hour, dayOfWeek), static_cast<unsigned char>(minute),
+                                 static_cast<unsigned char>(second)};
+  Store(bytes, TimeOfDayBits);
+}
+
+void GroupValue::GetAsDateTime(int* day, int* month, int* year, int* hour, int* minute, int* second,
+                               DayOfWeek* dayOfWeek, bool* fault, bool* workingDay, bool* noWorkingDay, bool* noYear,
+                               bool* noDate, bool* noDayOfWeek, bool* noTime, bool* summerTime,
+                               bool* clockQuality) const {
+  const unsigned char* bytes = Payload(DateTimeBits);
+  Put(year, 1900 + bytes[0]);
+  Put(month, bytes[1] & 0x0F);
+  Put(day, bytes[2] & 0x1F);
+  GetDayAndHour(bytes[3], hour, dayOfWeek);
+  Put(minute, bytes[4] & 0x3F);
+  Put(second, bytes[5] & 0x3F);
+  GetFlag(bytes[6], 7, fault);
+  GetFlag(bytes[6], 6, workingDay);
+  GetFlag(bytes[6], 5, noWorkingDay);
+  GetFlag(bytes[6], 4, noYear);
+  GetFlag(bytes[6], 3, noDate);
+  GetFlag(bytes[6], 2, noDayOfWeek);
+  GetFlag(bytes[6], 1, noTime);
+  GetFlag(bytes[6], 0, summerTime);
+  GetFlag(bytes[7], 7, clockQuality);
+}
+
+void GroupValue::SetAsDateTime(int day, int month, int year, int hour, int minute, int second, DayOfWeek dayOfWeek,
+                               bool fault, bool workingDay, bool noWorkingDay, bool noYear, bool noDate,
+                               bool noDayOfWeek, bool noTime, bool summerTime, bool clockQuality) {
+  CheckFits({{"day", day, 5}, {"month", month, 4}});
+  CheckYear(year, 1900, 2155);
+  CheckFits({{"hour", hour, 5}, {"minute", minute, 6}, {"second", second, 6}, {"day of week", dayOfWeek, 3}});
+  const unsigned char bytes[] = {
+      static_cast<unsigned char>(year - 1900),
+      static_cast<unsigned char>(month),
+      static_cast<unsigned char>(day),
+      DayAndHour(hour, dayOfWeek),
+      static_cast<unsigned char>(minute),
+      static_cast<unsigned char>(second),
+      static_cast<unsigned char>(Flag(fault, 7) | Flag(workingDay, 6) | Flag(noWorkingDay, 5) | Flag(noYear, 4) |
+                                 Flag(noDate, 3) | Flag(noDayOfWeek, 2) | Flag(noTime, 1) | Flag(summerTime, 0)),
+      Flag(clockQuality, 7),
+  };
+  Store(bytes, DateTimeBits);
+}
+
+}  // namespace KnxStack
