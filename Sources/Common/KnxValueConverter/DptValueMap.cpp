@@ -1,0 +1,71 @@
+#include "DptValueMap.h"
+
+#include <ostream>
+#include <utility>
+
+#include "ConverterLog.h"
+#include "KnxConverterDefault.h"
+
+namespace Nelmo {
+
+namespace {
+
+constexpr std::uint16_t GeneralSubNumber = 0;
+
+template <typename Compose>
+void LogNoEntry(int line, Compose&& compose) {
+  Log::Write(ULO_LOG_ERROR, Log::FacadeFile, "GetEntry", line, [&](std::ostream& out) {
+    out << "No Entry found for DPT = ";
+    compose(out);
+  });
+}
+
+}  // namespace
+
+bool DptValueMap::AddEntry(const KNXDPT& dpt, DptValueEntry&& entry) {
+  auto mainNode = m_map.find(dpt.mainNumber);
+  if (mainNode == m_map.end()) {
+    const auto inserted = m_map.emplace(dpt.mainNumber, SubNumberMap());
+    if (!inserted.second) {
+      return false;
+    }
+    mainNode = inserted.first;
+  } else if (mainNode->second.count(dpt.subNumber) != 0) {
+    return true;
+  }
+  return mainNode->second.try_emplace(dpt.subNumber, std::move(entry)).second;
+}
+
+const DptValueEntry& DptValueMap::GetEntry(const KNXDPT& dpt) const {
+  const auto mainNode = m_map.find(dpt.mainNumber);
+  if (mainNode == m_map.end()) {
+    LogNoEntry(__LINE__, [&](std::ostream& out) { out << Log::Dpt{dpt}; });
+    return GetEmptyEntry();
+  }
+  const SubNumberMap& rows = mainNode->second;
+  const auto row = rows.find(dpt.subNumber);
+  if (row != rows.end()) {
+    return row->second;
+  }
+  if (dpt.subNumber == GeneralSubNumber) {
+    LogNoEntry(__LINE__, [&](std::ostream& out) { out << Log::Dpt{dpt}; });
+    return GetEmptyEntry();
+  }
+  if (!rows.empty() && rows.begin()->first == GeneralSubNumber) {
+    return rows.begin()->second;
+  }
+  LogNoEntry(__LINE__, [&](std::ostream& out) { out << static_cast<unsigned>(dpt.mainNumber) << ".x"; });
+  return GetEmptyEntry();
+}
+
+DptValueEntry& DptValueMap::GetEmptyEntry() {
+  static DptValueEntry empty(KNXDPT(), IVT_ANY, UloDP::IVST_NONE, std::make_unique<KnxConverterDefault>());
+  return empty;
+}
+
+bool DptValueMap::Clear() {
+  m_map.clear();
+  return true;
+}
+
+}  // namespace Nelmo

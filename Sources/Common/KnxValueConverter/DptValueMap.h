@@ -1,0 +1,39 @@
+#pragma once
+
+#include <cstdint>
+#include <map>
+
+#include "DptValueEntry.h"
+#include "NelmoExport.h"
+#include "UloPlatform.h"
+
+namespace Nelmo {
+
+// The DPT table: main number to sub number to row. A row with sub number 0
+// stands for its whole main type and answers sub numbers without a row.
+class NELMO_EXPORT DptValueMap {
+ public:
+  using SubNumberMap = std::map<std::uint16_t, DptValueEntry>;
+  using MainNumberMap = std::map<std::uint16_t, SubNumberMap>;
+
+  DptValueMap() = default;
+  DptValueMap(DptValueMap&&) = default;
+  DptValueMap& operator=(DptValueMap&&) = default;
+  DptValueMap(const DptValueMap&) = delete;
+  DptValueMap& operator=(const DptValueMap&) = delete;
+
+  // First registration wins: a DPT that is already there keeps its row, the
+  // new entry (and its converter) is dropped, and the result is true.
+  bool AddEntry(const KNXDPT& dpt, DptValueEntry&& entry);
+  // The row of dpt's main and sub number, else the main.x row, else the
+  // empty entry. The bit size plays no part.
+  const DptValueEntry& GetEntry(const KNXDPT& dpt) const;
+  // The process-wide entry that stands for "no row" (value type IVT_ANY).
+  static DptValueEntry& GetEmptyEntry();
+  bool Clear();
+
+ private:
+  MainNumberMap m_map;
+};
+
+}  // namespace Nelmo
