@@ -1,0 +1,413 @@
+#include "KnxValueConverter.h"
+
+#include <cstddef>
+#include <ostream>
+#include <string_view>
+#include <utility>
+
+#include "ConverterLog.h"
+#include "KnxDptFormat.h"
+
+namespace Nelmo {
+
+namespace {
+
+constexpr std::string_view ToKnxFunction = "ToKnxValue";
+constexpr std::string_view FromKnxFunction = "FromKnxValue";
+// Values of up to 6 bits travel inside the telegram's control field.
+constexpr std::uint32_t ControlFieldBits = 6;
+constexpr std::uint32_t VariableLength = static_cast<std::uint32_t>(KnxDptFormat::VariableLength);
+constexpr unsigned int LargestBitSizeField = 255;
+
+// The result turns false before the message is written: an exception raised
+// while logging must still report the failure.
+template <typename Compose>
+bool Fail(bool& result, std::string_view function, int line, Compose&& compose) {
+  result = false;
+  Log::Write(ULO_LOG_ERROR, Log::FacadeFile, function, line, std::forward<Compose>(compose));
+  return false;
+}
+
+// The row of dpt; null, reported, when the map answers with the empty entry.
+const DptValueEntry* FindRow(const KnxValueConverter& facade, const KNXDPT& dpt, bool& result,
+                             std::string_view function) {
+  const DptValueEntry& entry = facade.GetEntry(dpt);
+  if (entry.valueType != IVT_ANY) {
+    return &entry;
+  }
+  Fail(result, function, __LINE__, [&](std::ostream& out) { out << "No Entry found for DPT = " << Log::Dpt{dpt}; });
+  return nullptr;
+}
+
+KnxConverter* ConverterOf(const DptValueEntry& entry, const KNXDPT& dpt, bool& result, std::string_view function) {
+  KnxConverter* converter = entry.GetConverter();
+  if (converter == nullptr) {
+    Fail(result, function, __LINE__,
+         [&](std::ostream& out) { out << "NULL pointer as KnxConverter for DPT = " << Log::Dpt{dpt}; });
+  }
+  return converter;
+}
+
+bool CompleteDptToSend(const KnxValueConverter& facade, KNXDPT& dpt, const ULOVALUE& value, bool& result) {
+  if (dpt.mainNumber != 0) {
+    return true;
+  }
+  if (!facade.GetDefaultMappingDptForValueType(dpt, value)) {
+    facade.GetDefaultMappingDptForSize(value.GetType(), dpt);
+  }
+  if (dpt.mainNumber != 0) {
+    return true;
+  }
+  return Fail(result, ToKnxFunction, __LINE__, [&](std::ostream& out) {
+    out << "Convert to KNX value failed. Missing DPT. val = " << value.ToString();
+  });
+}
+
+// The value passes as it is where the row accepts its type, else it is
+// converted into the row's type.
+bool PrepareValue(const KnxValueConverter& facade, const DptValueEntry& entry, const KNXDPT& dpt, const ULOVALUE& value,
+                  ULOVALUE& working, bool& result) {
+  if (value.GetType() == IVT_NONE || facade.AreValueTypesCompatible(value.GetType(), entry.valueType)) {
+    working = value;
+    return true;
+  }
+  working.SetType(entry.valueType);
+  if (working.Assign(value)) {
+    return true;
+  }
+  return Fail(result, ToKnxFunction, __LINE__, [&](std::ostream& out) {
+    out << "Invalid value type found for DPT = " << Log::Dpt{dpt}
+        << " val.ivt=" << static_cast<std::int32_t>(value.GetType());
+  });
+}
+
+bool Send(const KnxValueConverter& facade, KNXDPT& dpt, const ULOVALUE& value, KnxStack::GroupValue& groupValue,
+          bool& result) {
+  if (!CompleteDptToSend(facade, dpt, value, result)) {
+    return false;
+  }
+  const DptValueEntry* entry = FindRow(facade, dpt, result, ToKnxFunction);
+  if (entry == nullptr) {
+    return false;
+  }
+  ULOVALUE working;
+  if (!PrepareValue(facade, *entry, dpt, value, working, result)) {
+    return false;
+  }
+  KnxConverter* converter = ConverterOf(*entry, dpt, result, ToKnxFunction);
+  if (converter == nullptr) {
+    return false;
+  }
+  if (converter->ToKnxValue(dpt, working, groupValue)) {
+    return true;
+  }
+  return Fail(result, ToKnxFunction, __LINE__, [&](std::ostream& out) {
+    out << "Convert to KNX value failed for DPT = " << Log::Dpt{dpt} << " val = " << working.ToString();
+  });
+}
+
+// A size that the DPT's bit size field cannot hold has no default either.
+std::uint8_t BitSizeField(unsigned int bits) {
+  return bits > LargestBitSizeField ? 0 : static_cast<std::uint8_t>(bits);
+}
+
+bool CompleteDptToReceive(const KnxValueConverter& facade, KNXDPT& dpt, const KnxStack::GroupValue& groupValue,
+                          const ULOVALUE& value, bool& result) {
+  if (dpt.mainNumber != 0) {
+    return true;
+  }
+  if (dpt.bitSize != 0) {
+    facade.GetDefaultMappingDptForSize(value.GetType(), dpt);
+  } else {
+    KNXDPT sized = dpt;
+    sized.bitSize = BitSizeField(groupValue.GetDefinedSize());
+    if (facade.GetDefaultMappingDptForSize(value.GetType(), sized)) {
+      dpt = sized;
+    }
+  }
+  if (dpt.mainNumber != 0) {
+    return true;
+  }
+  return Fail(result, FromKnxFunction, __LINE__, [&](std::ostream& out) {
+    out << "Convert from KNX value failed. Missing DPT. GroupValue = " << groupValue.GetRawData().ToString();
+  });
+}
+
+// The group value that the converter reads; null, reported, when the received
+// size does not suit the DPT. Values sent inside the control field arrive
+// with 6 bits and are handed on re-sized to the DPT's format.
+const KnxStack::GroupValue* SizedGroupValue(const KNXDPT& dpt, const KnxStack::GroupValue& received,
+                                            KnxStack::GroupValue& local, bool& result) {
+  const std::uint32_t expected = static_cast<std::uint32_t>(KnxDptFormat::GetBitSize(dpt));
+  const std::uint32_t defined = received.GetDefinedSize();
+  bool mismatch = false;
+  if (expected <= ControlFieldBits) {
+    mismatch = defined > ControlFieldBits;
+    if (!mismatch) {
+      local = KnxStack::GroupValue(received.GetRawData(), expected);
+    }
+  } else {
+    mismatch = expected != defined && expected != VariableLength;
+  }
+  if (mismatch) {
+    Fail(result, FromKnxFunction, __LINE__, [&](std::ostream& out) {
+      out << "Failed to convert a GroupValue for DPT " << Log::Dpt{dpt}
+          << " because of unexpected bit size: " << defined << ", expected: " << expected;
+    });
+    return nullptr;
+  }
+  return defined == ControlFieldBits ? &local : &received;
+}
+
+bool Receive(const KnxValueConverter& facade, KNXDPT& dpt, const KnxStack::GroupValue& groupValue, ULOVALUE& value,
+             bool& result) {
+  if (!CompleteDptToReceive(facade, dpt, groupValue, value, result)) {
+    return false;
+  }
+  const DptValueEntry* entry = FindRow(facade, dpt, result, FromKnxFunction);
+  if (entry == nullptr) {
+    return false;
+  }
+  value.SetType(entry->valueType);
+  KnxStack::GroupValue local;
+  const KnxStack::GroupValue* chosen = SizedGroupValue(dpt, groupValue, local, result);
+  if (chosen == nullptr) {
+    return false;
+  }
+  KnxConverter* converter = ConverterOf(*entry, dpt, result, FromKnxFunction);
+  if (converter == nullptr) {
+    return false;
+  }
+  if (converter->FromKnxValue(dpt, *chosen, value)) {
+    return true;
+  }
+  return Fail(result, FromKnxFunction, __LINE__, [&](std::ostream& out) {
+    out << "Convert from KNX value failed for DPT = " << Log::Dpt{dpt}
+        << " GroupValue = " << chosen->GetRawData().ToString();
+  });
+}
+
+// A list of value types, for the compatibility table.
+struct TypeList {
+  const UloValueType* types = nullptr;
+  std::size_t count = 0;
+
+  bool Contains(UloValueType type) const {
+    for (std::size_t index = 0; index < count; ++index) {
+      if (types[index] == type) {
+        return true;
+      }
+    }
+    return false;
+  }
+};
+
+template <std::size_t Count>
+constexpr TypeList ListOf(const UloValueType (&types)[Count]) {
+  return TypeList{types, Count};
+}
+
+constexpr UloValueType NumberKinds[] = {IVT_DOUBLE, IVT_DOUBLE_1005, IVT_PERCENT, IVT_DIMMING, IVT_DOUBLE_1039};
+constexpr UloValueType SignedKinds[] = {IVT_INT32, IVT_TIMESPAN};
+constexpr UloValueType ByteKinds[] = {IVT_BYTE, IVT_BYTE_1021};
+constexpr UloValueType UnsignedKinds[] = {IVT_UINT16, IVT_UINT32, IVT_UNSIGNED_20};
+constexpr UloValueType DateKinds[] = {IVT_DATE, IVT_DATE_105};
+constexpr UloValueType TimeKinds[] = {IVT_TIME, IVT_TIME_104};
+// A date-time may go to a date or a time row, but not the other way round.
+constexpr UloValueType DateAndTimeKinds[] = {IVT_DATE,     IVT_TIME,     IVT_DATETIME,    IVT_DATETIME_102,
+                                             IVT_TIME_104, IVT_DATE_105, IVT_DATETIME_201};
+
+// The row types that a value of type first may reach unconverted, besides
+// its own.
+TypeList AcceptedRowTypes(UloValueType first) {
+  switch (first) {
+    case IVT_DOUBLE:
+    case IVT_DOUBLE_1005:
+    case IVT_PERCENT:
+    case IVT_DIMMING:
+    case IVT_DOUBLE_1039:
+      return ListOf(NumberKinds);
+    case IVT_INT32:
+    case IVT_TIMESPAN:
+      return ListOf(SignedKinds);
+    case IVT_BYTE:
+    case IVT_BYTE_1021:
+      return ListOf(ByteKinds);
+    case IVT_UINT16:
+    case IVT_UINT32:
+    case IVT_UNSIGNED_20:
+      return ListOf(UnsignedKinds);
+    case IVT_DATE:
+    case IVT_DATE_105:
+      return ListOf(DateKinds);
+    case IVT_TIME:
+    case IVT_TIME_104:
+      return ListOf(TimeKinds);
+    case IVT_DATETIME:
+    case IVT_DATETIME_102:
+    case IVT_DATETIME_201:
+      return ListOf(DateAndTimeKinds);
+    default:
+      return TypeList();
+  }
+}
+
+constexpr int AnyBitSize = -1;
+
+// Default DPT of a value type; rows of one type are tried in order.
+struct ValueTypeDefault {
+  UloValueType type;
+  int bitSizeOnEntry;
+  KNXDPT dpt;
+};
+
+constexpr ValueTypeDefault ValueTypeDefaults[] = {
+    {IVT_BOOL, AnyBitSize, {1, 1, 1}},
+    {IVT_DIMMING, AnyBitSize, {4, 3, 7}},
+    {IVT_BYTE, AnyBitSize, {8, 5, 0}},
+    {IVT_PERCENT, AnyBitSize, {8, 5, 1}},
+    {IVT_DOUBLE, 0, {16, 9, 0}},
+    {IVT_DOUBLE, 4, {4, 3, 0}},
+    {IVT_DOUBLE, 8, {8, 5, 1}},
+    {IVT_DOUBLE, 16, {16, 9, 0}},
+    {IVT_DOUBLE, 32, {32, 14, 0}},
+    {IVT_TIME, AnyBitSize, {24, 10, 1}},
+    {IVT_DATE, AnyBitSize, {24, 11, 1}},
+    {IVT_UINT32, 0, {32, 12, 1}},
+    {IVT_UINT32, 8, {8, 5, 0}},
+    {IVT_UINT32, 16, {16, 7, 0}},
+    {IVT_UINT32, 24, {24, 232, 0}},
+    {IVT_UINT32, 32, {32, 12, 0}},
+    {IVT_INT32, 0, {32, 13, 0}},
+    {IVT_INT32, 8, {8, 6, 0}},
+    {IVT_INT32, 16, {16, 8, 0}},
+    {IVT_INT32, 32, {32, 13, 0}},
+    {IVT_TIMESPAN, AnyBitSize, {32, 13, 100}},
+    {IVT_UINT64, AnyBitSize, {40, 218, 0}},
+    {IVT_DATETIME, AnyBitSize, {64, 19, 1}},
+    {IVT_STRING, 0, {112, 16, 1}},
+    {IVT_STRING, 8, {8, 4, 2}},
+    {IVT_STRING, 112, {112, 16, 1}},
+};
+
+// Default DPT of a bit size; within a size the first matching row wins, the
+// last row of a size takes every type.
+struct SizeDefault {
+  std::uint8_t bitSize;
+  bool anyType;
+  UloValueType type;
+  std::uint16_t mainNumber;
+  std::uint16_t subNumber;
+};
+
+constexpr SizeDefault ForType(std::uint8_t bitSize, UloValueType type, std::uint16_t mainNumber,
+                              std::uint16_t subNumber) {
+  return SizeDefault{bitSize, false, type, mainNumber, subNumber};
+}
+
+constexpr SizeDefault ForAny(std::uint8_t bitSize, std::uint16_t mainNumber, std::uint16_t subNumber) {
+  return SizeDefault{bitSize, true, IVT_ANY, mainNumber, subNumber};
+}
+
+constexpr SizeDefault SizeDefaults[] = {
+    ForAny(1, 1, 1),
+    ForAny(2, 2, 1),
+    ForType(4, IVT_DOUBLE, 3, 0),
+    ForAny(4, 3, 7),
+    ForType(8, IVT_INT32, 6, 0),
+    ForType(8, IVT_STRING, 4, 2),
+    ForType(8, IVT_DOUBLE, 5, 1),
+    ForType(8, IVT_PERCENT, 5, 1),
+    ForAny(8, 5, 0),
+    ForType(16, IVT_INT32, 8, 0),
+    ForType(16, IVT_UINT16, 7, 0),
+    ForType(16, IVT_UINT32, 7, 0),
+    ForAny(16, 9, 0),
+    ForType(24, IVT_UINT32, 232, 0),
+    ForType(24, IVT_DATE, 11, 1),
+    ForAny(24, 10, 1),
+    ForType(32, IVT_UINT32, 12, 0),
+    ForType(32, IVT_TIMESPAN, 13, 100),
+    ForType(32, IVT_INT32, 13, 0),
+    ForAny(32, 14, 0),
+    ForAny(40, 218, 0),
+    ForAny(48, 219, 1),
+    ForAny(64, 19, 1),
+    ForType(112, IVT_STRING, 16, 1),
+    ForAny(112, 16, 0),
+};
+
+}  // namespace
+
+KnxValueConverter::KnxValueConverter() {
+  FillDptValueMap();
+}
+
+bool KnxValueConverter::Init() {
+  return true;
+}
+
+bool KnxValueConverter::AddDptValueMapEntry(std::uint16_t mainNumber, std::uint16_t subNumber, std::uint8_t bitSize,
+                                            UloValueType valueType, UloDP::UloValueSubType subType,
+                                            const KnxConverter& converter) {
+  const KNXDPT dpt{bitSize, mainNumber, subNumber};
+  DptValueEntry entry(dpt, valueType, subType, converter.Clone());
+  return m_dptValueMap.AddEntry(dpt, std::move(entry));
+}
+
+const DptValueEntry& KnxValueConverter::GetEntry(const KNXDPT& dpt) const {
+  return m_dptValueMap.GetEntry(dpt);
+}
+
+bool KnxValueConverter::ToKnxValue(const KNXDPT& dpt, const ULOVALUE& value, KnxStack::GroupValue& groupValue) const {
+  bool result = true;
+  try {
+    // Callers rely on seeing the DPT chosen for them in their own object.
+    Send(*this, const_cast<KNXDPT&>(dpt), value, groupValue, result);
+  } catch (const KnxStack::GroupValueException& exception) {
+    // The result stays as it was: true unless a failure was being reported.
+    Log::Write(ULO_LOG_ERROR, Log::FacadeFile, ToKnxFunction, __LINE__, [&](std::ostream& out) {
+      out << "Exception caught during conversion of ULOVALUE to GroupValue: " << exception.what();
+    });
+  }
+  return result;
+}
+
+bool KnxValueConverter::FromKnxValue(const KNXDPT& dpt, const KnxStack::GroupValue& groupValue, ULOVALUE& value) const {
+  bool result = true;
+  try {
+    Receive(*this, const_cast<KNXDPT&>(dpt), groupValue, value, result);
+  } catch (const KnxStack::GroupValueException& exception) {
+    Log::Write(ULO_LOG_ERROR, Log::FacadeFile, FromKnxFunction, __LINE__, [&](std::ostream& out) {
+      out << "Exception caught during conversion of GroupValue: " << exception.what();
+    });
+  }
+  return result;
+}
+
+bool KnxValueConverter::AreValueTypesCompatible(UloValueType first, UloValueType second) const {
+  return first == second || AcceptedRowTypes(first).Contains(second);
+}
+
+bool KnxValueConverter::GetDefaultMappingDptForSize(UloValueType valueType, KNXDPT& dpt) const {
+  for (const SizeDefault& row : SizeDefaults) {
+    if (row.bitSize == dpt.bitSize && (row.anyType || row.type == valueType)) {
+      dpt.mainNumber = row.mainNumber;
+      dpt.subNumber = row.subNumber;
+      return true;
+    }
+  }
+  return false;
+}
+
+bool KnxValueConverter::GetDefaultMappingDptForValueType(KNXDPT& dpt, const ULOVALUE& value) const {
+  for (const ValueTypeDefault& row : ValueTypeDefaults) {
+    if (row.type == value.GetType() && (row.bitSizeOnEntry == AnyBitSize || row.bitSizeOnEntry == dpt.bitSize)) {
+      dpt = row.dpt;
+      return true;
+    }
+  }
+  return false;
+}
+
+}  // namespace Nelmo
