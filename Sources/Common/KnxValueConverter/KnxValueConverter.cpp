@@ -359,6 +359,10 @@ const DptValueEntry& KnxValueConverter::GetEntry(const KNXDPT& dpt) const {
   return m_dptValueMap.GetEntry(dpt);
 }
 
+bool KnxValueConverter::Clear() {
+  return m_dptValueMap.Clear();
+}
+
 bool KnxValueConverter::ToKnxValue(const KNXDPT& dpt, const ULOVALUE& value, KnxStack::GroupValue& groupValue) const {
   bool result = true;
   try {

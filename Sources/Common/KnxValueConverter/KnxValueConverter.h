@@ -29,6 +29,8 @@ class NELMO_EXPORT KnxValueConverter {
   bool AddDptValueMapEntry(std::uint16_t mainNumber, std::uint16_t subNumber, std::uint8_t bitSize,
                            UloValueType valueType, UloDP::UloValueSubType subType, const KnxConverter& converter);
   const DptValueEntry& GetEntry(const KNXDPT& dpt) const;
+  // Removes every row; FillDptValueMap() brings the standard rows back.
+  bool Clear();
 
   // A dpt with main number 0 is completed from defaults, and the chosen DPT
   // is written back into the caller's object: pass a non-const KNXDPT, and
