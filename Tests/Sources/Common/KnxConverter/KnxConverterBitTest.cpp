@@ -1,0 +1,387 @@
+#include "KnxConverterBit.h"
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "LogCapture.h"
+#include "ScalarConverterTestSupport.h"
+
+namespace {
+
+using namespace ScalarConverterTest;
+using Nelmo::KnxConverter;
+
+const KNXDPT Dpt1 = DptOf(1, 1, 1);
+const KNXDPT Dpt2 = DptOf(2, 2, 1);
+const KNXDPT Dpt3 = DptOf(4, 3, 7);
+
+// The range of the standard 3.x row.
+Nelmo::FloatIntegerRange Dpt3Range() {
+  return Nelmo::FloatIntegerRange(-100.0, 100.0, 0, 15);
+}
+
+// ---------------------------------------------------------------------------
+// 1 bit
+
+TEST(KnxConverter1Bit, SendsTheBoolean) {
+  Nelmo::KnxConverter1Bit converter;
+  struct Row {
+    bool value;
+    Bytes bytes;
+  };
+  const Row rows[] = {
+      {false, {0x00}},
+      {true, {0x01}},
+  };
+  for (const Row& row : rows) {
+    SCOPED_TRACE(row.value);
+    KnxStack::GroupValue groupValue = Untouched();
+    EXPECT_TRUE(converter.ToKnxValue(Dpt1, ULOVALUE::Bool(row.value), groupValue));
+    EXPECT_TRUE(Holds(groupValue, row.bytes, 1));
+  }
+}
+
+TEST(KnxConverter1Bit, ReceivesTheBoolean) {
+  Nelmo::KnxConverter1Bit converter;
+  struct Row {
+    Bytes bytes;
+    bool value;
+  };
+  const Row rows[] = {
+      {{0x00}, false},
+      {{0x01}, true},
+  };
+  for (const Row& row : rows) {
+    SCOPED_TRACE(row.value);
+    ULOVALUE value = ULOVALUE::Bool(!row.value);
+    EXPECT_TRUE(converter.FromKnxValue(Dpt1, GroupOf(row.bytes, 1), value));
+    EXPECT_EQ(value.GetBool(), row.value);
+    EXPECT_EQ(value.GetType(), IVT_BOOL);
+  }
+}
+
+TEST(KnxConverter1Bit, RefusesAnythingButABooleanOnMainNumber1Silently) {
+  Nelmo::KnxConverter1Bit converter;
+  struct Row {
+    const char* name;
+    KNXDPT dpt;
+    ULOVALUE value;
+  };
+  const Row rows[] = {
+      {"integer", Dpt1, ULOVALUE::Int32(1)},
+      {"double", Dpt1, ULOVALUE::Double(1.0)},
+      {"byte", Dpt1, ULOVALUE::Byte(1)},
+      {"boolean on 2.x", DptOf(1, 2, 1), ULOVALUE::Bool(true)},
+      {"boolean on 5.x", DptOf(1, 5, 1), ULOVALUE::Bool(true)},
+  };
+  for (const Row& row : rows) {
+    SCOPED_TRACE(row.name);
+    TestSupport::LogCapture capture(ULO_LOG_INFO);
+    KnxStack::GroupValue groupValue = Untouched();
+    EXPECT_FALSE(converter.ToKnxValue(row.dpt, row.value, groupValue));
+    EXPECT_TRUE(IsUntouched(groupValue));
+    EXPECT_TRUE(capture.Lines().empty());
+  }
+}
+
+TEST(KnxConverter1Bit, ReceivesOnlyOnMainNumber1) {
+  Nelmo::KnxConverter1Bit converter;
+  TestSupport::LogCapture capture;
+  ULOVALUE value = ULOVALUE::Bool(false);
+  EXPECT_FALSE(converter.FromKnxValue(DptOf(1, 2, 1), GroupOf({0x01}, 1), value));
+  EXPECT_FALSE(value.GetBool());
+  EXPECT_TRUE(capture.Lines().empty());
+}
+
+// ---------------------------------------------------------------------------
+// 2 bits
+
+TEST(KnxConverter2Bit, SendsTheValueBitWithTheControlBitSet) {
+  Nelmo::KnxConverter2Bit converter;
+  struct Row {
+    bool value;
+    Bytes bytes;
+  };
+  const Row rows[] = {
+      {false, {0x02}},
+      {true, {0x03}},
+  };
+  for (const Row& row : rows) {
+    SCOPED_TRACE(row.value);
+    KnxStack::GroupValue groupValue;
+    EXPECT_TRUE(converter.ToKnxValue(Dpt2, ULOVALUE::Bool(row.value), groupValue));
+    EXPECT_TRUE(Holds(groupValue, row.bytes, 2));
+  }
+}
+
+TEST(KnxConverter2Bit, ReceivesTheValueBitAndDropsTheControlBit) {
+  Nelmo::KnxConverter2Bit converter;
+  struct Row {
+    Bytes bytes;
+    bool value;
+  };
+  const Row rows[] = {
+      {{0x02}, false},
+      {{0x00}, false},
+      {{0x03}, true},
+      {{0x01}, true},
+  };
+  for (const Row& row : rows) {
+    SCOPED_TRACE(static_cast<int>(row.bytes[0]));
+    ULOVALUE value = ULOVALUE::Bool(!row.value);
+    EXPECT_TRUE(converter.FromKnxValue(Dpt2, GroupOf(row.bytes, 2), value));
+    EXPECT_EQ(value.GetBool(), row.value);
+  }
+}
+
+TEST(KnxConverter2Bit, RefusesAnythingButABooleanOnMainNumber2Silently) {
+  Nelmo::KnxConverter2Bit converter;
+  struct Row {
+    const char* name;
+    KNXDPT dpt;
+    ULOVALUE value;
+  };
+  const Row rows[] = {
+      {"integer", Dpt2, ULOVALUE::Int32(1)},
+      {"double", Dpt2, ULOVALUE::Double(1.0)},
+      {"boolean on 1.x", DptOf(2, 1, 1), ULOVALUE::Bool(true)},
+  };
+  for (const Row& row : rows) {
+    SCOPED_TRACE(row.name);
+    TestSupport::LogCapture capture(ULO_LOG_INFO);
+    KnxStack::GroupValue groupValue = Untouched();
+    EXPECT_FALSE(converter.ToKnxValue(row.dpt, row.value, groupValue));
+    EXPECT_TRUE(IsUntouched(groupValue));
+    EXPECT_TRUE(capture.Lines().empty());
+  }
+}
+
+TEST(KnxConverter2Bit, ReceivesOnlyOnMainNumber2) {
+  Nelmo::KnxConverter2Bit converter;
+  TestSupport::LogCapture capture;
+  ULOVALUE value = ULOVALUE::Bool(false);
+  EXPECT_FALSE(converter.FromKnxValue(DptOf(2, 1, 1), GroupOf({0x03}, 2), value));
+  EXPECT_FALSE(value.GetBool());
+  EXPECT_TRUE(capture.Lines().empty());
+}
+
+// ---------------------------------------------------------------------------
+// 4 bits: bit 3 the direction (set: increase), bits 0-2 the step code
+
+TEST(KnxConverter4Bit, SendsTheStepCodeOfTheClampedPercentage) {
+  Nelmo::KnxConverter4Bit converter(Dpt3Range());
+  struct Row {
+    double value;
+    Bytes bytes;
+  };
+  const Row rows[] = {
+      {-100.0, {0x01}}, {100.0, {0x09}}, {0.0, {0x00}},   {150.0, {0x09}},
+      {-250.0, {0x01}}, {50.0, {0x0A}},  {-12.5, {0x04}}, {1.0, {0x0F}},
+  };
+  for (const Row& row : rows) {
+    SCOPED_TRACE(row.value);
+    KnxStack::GroupValue groupValue;
+    EXPECT_TRUE(converter.ToKnxValue(Dpt3, ULOVALUE::Double(row.value), groupValue));
+    EXPECT_TRUE(Holds(groupValue, row.bytes, 4));
+  }
+}
+
+// No range is applied on the way in.
+TEST(KnxConverter4Bit, ReceivesTheSignedStep) {
+  Nelmo::KnxConverter4Bit converter(Dpt3Range());
+  struct Row {
+    Bytes bytes;
+    double value;
+  };
+  const Row rows[] = {
+      {{0x09}, 100.0}, {{0x01}, -100.0}, {{0x00}, 0.0},    {{0x08}, 0.0},
+      {{0x0A}, 50.0},  {{0x04}, -12.5},  {{0x0F}, 1.5625}, {{0x07}, -1.5625},
+  };
+  for (const Row& row : rows) {
+    SCOPED_TRACE(static_cast<int>(row.bytes[0]));
+    ULOVALUE value = ULOVALUE::Double(99.0);
+    EXPECT_TRUE(converter.FromKnxValue(Dpt3, GroupOf(row.bytes, 4), value));
+    EXPECT_EQ(value.GetDouble(), row.value);
+    EXPECT_EQ(value.GetType(), IVT_DOUBLE);
+  }
+}
+
+TEST(KnxConverter4Bit, RefusesAnythingButADoubleOnMainNumber3Silently) {
+  Nelmo::KnxConverter4Bit converter(Dpt3Range());
+  struct Row {
+    const char* name;
+    KNXDPT dpt;
+    ULOVALUE value;
+  };
+  const Row rows[] = {
+      {"double on 1.x", DptOf(4, 1, 1), ULOVALUE::Double(50.0)},
+      {"boolean", Dpt3, ULOVALUE::Bool(true)},
+      {"integer", Dpt3, ULOVALUE::Int32(50)},
+      {"dimming kind", Dpt3, ULOVALUE::Double(50.0, IVT_DIMMING)},
+  };
+  for (const Row& row : rows) {
+    SCOPED_TRACE(row.name);
+    TestSupport::LogCapture capture(ULO_LOG_INFO);
+    KnxStack::GroupValue groupValue = Untouched();
+    EXPECT_FALSE(converter.ToKnxValue(row.dpt, row.value, groupValue));
+    EXPECT_TRUE(IsUntouched(groupValue));
+    EXPECT_TRUE(capture.Lines().empty());
+  }
+}
+
+TEST(KnxConverter4Bit, ReceivesOnlyOnMainNumber3) {
+  Nelmo::KnxConverter4Bit converter(Dpt3Range());
+  ULOVALUE value = ULOVALUE::Double(7.0);
+  EXPECT_FALSE(converter.FromKnxValue(DptOf(4, 1, 1), GroupOf({0x09}, 4), value));
+  EXPECT_EQ(value.GetDouble(), 7.0);
+}
+
+// ---------------------------------------------------------------------------
+// Messages
+
+TEST(BitConverterMessages, SendingIsTracedAtLevel0) {
+  Nelmo::KnxConverter1Bit oneBit;
+  Nelmo::KnxConverter2Bit twoBit;
+  Nelmo::KnxConverter4Bit fourBit(Dpt3Range());
+  struct Row {
+    KnxConverter* converter;
+    KNXDPT dpt;
+    ULOVALUE value;
+    std::string trace;
+  };
+  const Row rows[] = {
+      {&oneBit, Dpt1, ULOVALUE::Bool(true), "DPT is used. DPT = 1.1 ivt=2 val=true"},
+      {&twoBit, DptOf(2, 2, 0), ULOVALUE::Bool(false), "DPT is used. DPT = 2.0 ivt=2 val=false"},
+      {&fourBit, Dpt3, ULOVALUE::Double(-12.5), "DPT is used. DPT = 3.7 ivt=3 val=-12.5"},
+      // A refused value is traced all the same.
+      {&oneBit, Dpt1, ULOVALUE::Int32(1), "DPT is used. DPT = 1.1 ivt=4 val=1"},
+  };
+  for (const Row& row : rows) {
+    SCOPED_TRACE(row.trace);
+    TestSupport::LogCapture capture;
+    KnxStack::GroupValue groupValue;
+    row.converter->ToKnxValue(row.dpt, row.value, groupValue);
+    EXPECT_EQ(capture.Lines(), std::vector<LogLine>{Trace("ToKnxValue", row.trace)});
+  }
+}
+
+// The one-line decoders of 1 and 2 bits write nothing; the 4-bit one traces.
+TEST(BitConverterMessages, OnlyThe4BitConverterTracesReceiving) {
+  Nelmo::KnxConverter1Bit oneBit;
+  Nelmo::KnxConverter2Bit twoBit;
+  Nelmo::KnxConverter4Bit fourBit(Dpt3Range());
+  struct Row {
+    KnxConverter* converter;
+    KNXDPT dpt;
+    Bytes bytes;
+    unsigned int bits;
+    std::vector<LogLine> lines;
+  };
+  const Row rows[] = {
+      {&oneBit, Dpt1, {0x01}, 1, {}},
+      {&twoBit, Dpt2, {0x03}, 2, {}},
+      {&fourBit, Dpt3, {0x0C}, 4, {Trace("FromKnxValue", "DPT is used. DPT = 3.7 grp.size=4 grp.val=0C")}},
+  };
+  for (const Row& row : rows) {
+    SCOPED_TRACE(row.bits);
+    TestSupport::LogCapture capture;
+    ULOVALUE value;
+    EXPECT_TRUE(row.converter->FromKnxValue(row.dpt, GroupOf(row.bytes, row.bits), value));
+    EXPECT_EQ(capture.Lines(), row.lines);
+  }
+}
+
+TEST(BitConverterMessages, AClampedPercentageIsReportedAtLevel1) {
+  Nelmo::KnxConverter4Bit converter(Dpt3Range());
+  struct Row {
+    double value;
+    std::string message;
+    Bytes bytes;
+  };
+  const Row rows[] = {
+      {150.0, "The internal value of DPT=3.7, ivt=3 has been adjusted from 150 to 100 before conversion.", {0x09}},
+      {-250.0, "The internal value of DPT=3.7, ivt=3 has been adjusted from -250 to -100 before conversion.", {0x01}},
+      {100.0000001,
+       "The internal value of DPT=3.7, ivt=3 has been adjusted from 100 to 100 before conversion.",
+       {0x09}},
+      {-1234.5678,
+       "The internal value of DPT=3.7, ivt=3 has been adjusted from -1234.57 to -100 before conversion.",
+       {0x01}},
+  };
+  for (const Row& row : rows) {
+    SCOPED_TRACE(row.message);
+    TestSupport::LogCapture capture(ULO_LOG_INFO);
+    KnxStack::GroupValue groupValue;
+    EXPECT_TRUE(converter.ToKnxValue(Dpt3, ULOVALUE::Double(row.value), groupValue));
+    EXPECT_EQ(capture.Lines(), std::vector<LogLine>{Adjusted(row.message)});
+    EXPECT_TRUE(Holds(groupValue, row.bytes, 4));
+  }
+}
+
+TEST(BitConverterMessages, APercentageInsideTheRangeIsNotReported) {
+  Nelmo::KnxConverter4Bit converter(Dpt3Range());
+  TestSupport::LogCapture capture(ULO_LOG_INFO);
+  KnxStack::GroupValue groupValue;
+  EXPECT_TRUE(converter.ToKnxValue(Dpt3, ULOVALUE::Double(-100.0), groupValue));
+  EXPECT_TRUE(capture.Lines().empty());
+}
+
+// ---------------------------------------------------------------------------
+// Exceptions and clones
+
+TEST(BitConverters, AccessorExceptionsPassThrough) {
+  Nelmo::KnxConverter1Bit oneBit;
+  Nelmo::KnxConverter2Bit twoBit;
+  Nelmo::KnxConverter4Bit fourBit(Dpt3Range());
+  struct Row {
+    const char* name;
+    KnxConverter* converter;
+    KNXDPT dpt;
+    Bytes bytes;
+    unsigned int bits;
+  };
+  const Row rows[] = {
+      {"1 bit from 8 bits", &oneBit, Dpt1, {0x01}, 8},
+      {"2 bits from 1 bit", &twoBit, Dpt2, {0x01}, 1},
+      {"4 bits from 8 bits", &fourBit, Dpt3, {0x09}, 8},
+      {"4 bits from nothing", &fourBit, Dpt3, {}, 4},
+  };
+  for (const Row& row : rows) {
+    SCOPED_TRACE(row.name);
+    ULOVALUE value;
+    EXPECT_THROW(row.converter->FromKnxValue(row.dpt, GroupOf(row.bytes, row.bits), value),
+                 KnxStack::GroupValueException);
+  }
+}
+
+TEST(BitConverterClone, ClonesToTheSameClass) {
+  const Nelmo::KnxConverter1Bit oneBit;
+  const Nelmo::KnxConverter2Bit twoBit;
+  std::unique_ptr<KnxConverter> oneBitClone(oneBit.Clone());
+  std::unique_ptr<KnxConverter> twoBitClone(twoBit.Clone());
+  EXPECT_NE(dynamic_cast<Nelmo::KnxConverter1Bit*>(oneBitClone.get()), nullptr);
+  EXPECT_NE(dynamic_cast<Nelmo::KnxConverter2Bit*>(twoBitClone.get()), nullptr);
+  KnxStack::GroupValue groupValue;
+  EXPECT_TRUE(twoBitClone->ToKnxValue(Dpt2, ULOVALUE::Bool(true), groupValue));
+  EXPECT_TRUE(Holds(groupValue, {0x03}, 2));
+}
+
+TEST(BitConverterClone, KeepsTheRangeAndLeavesTheSourceUsable) {
+  // A narrower range than the standard row's, so that the clamping after the
+  // clone is gone shows the source's own range.
+  Nelmo::KnxConverter4Bit source(Nelmo::FloatIntegerRange(-50.0, 50.0, 0, 15));
+  {
+    std::unique_ptr<KnxConverter> clone(source.Clone());
+    const auto* typed = dynamic_cast<const Nelmo::KnxConverter4Bit*>(clone.get());
+    ASSERT_NE(typed, nullptr);
+    EXPECT_TRUE(SameRange(typed->GetRange(), source.GetRange()));
+  }
+  KnxStack::GroupValue groupValue;
+  EXPECT_TRUE(source.ToKnxValue(Dpt3, ULOVALUE::Double(100.0), groupValue));
+  EXPECT_TRUE(Holds(groupValue, {0x0A}, 4));
+}
+
+}  // namespace
