@@ -31,6 +31,8 @@ class NELMO_EXPORT DptValueMap {
   // The process-wide entry that stands for "no row" (value type IVT_ANY).
   static DptValueEntry& GetEmptyEntry();
   bool Clear();
+  // Every row, ordered by main and sub number, for listing the table.
+  const MainNumberMap& GetEntries() const { return m_map; }
 
  private:
   MainNumberMap m_map;

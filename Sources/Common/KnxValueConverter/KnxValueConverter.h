@@ -29,6 +29,8 @@ class NELMO_EXPORT KnxValueConverter {
   bool AddDptValueMapEntry(std::uint16_t mainNumber, std::uint16_t subNumber, std::uint8_t bitSize,
                            UloValueType valueType, UloDP::UloValueSubType subType, const KnxConverter& converter);
   const DptValueEntry& GetEntry(const KNXDPT& dpt) const;
+  // The table as it stands, for listing its rows.
+  const DptValueMap& GetDptValueMap() const { return m_dptValueMap; }
   // Removes every row; FillDptValueMap() brings the standard rows back.
   bool Clear();
 
