@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include "CountedAllocations.h"
 #include "LogCapture.h"
 #include "ScalarConverterTestSupport.h"
 
@@ -327,6 +328,41 @@ TEST(BitConverterMessages, APercentageInsideTheRangeIsNotReported) {
   KnxStack::GroupValue groupValue;
   EXPECT_TRUE(converter.ToKnxValue(Dpt3, ULOVALUE::Double(-100.0), groupValue));
   EXPECT_TRUE(capture.Lines().empty());
+}
+
+TEST(BitConverterMessages, NothingIsAllocatedWhileLoggingIsOff) {
+  Nelmo::KnxConverter1Bit oneBit;
+  Nelmo::KnxConverter2Bit twoBit;
+  Nelmo::KnxConverter4Bit fourBit(Dpt3Range());
+  struct Row {
+    KnxConverter* converter;
+    KNXDPT dpt;
+    ULOVALUE value;
+  };
+  const Row rows[] = {
+      {&oneBit, Dpt1, ULOVALUE::Bool(true)},
+      {&twoBit, Dpt2, ULOVALUE::Bool(true)},
+      {&fourBit, Dpt3, ULOVALUE::Double(150.0)},
+  };
+  for (const Row& row : rows) {
+    SCOPED_TRACE(row.value.ToString());
+    KnxStack::GroupValue groupValue;
+    ULOVALUE received(row.value.GetType());
+    TestSupport::LogCapture capture(ULO_LOG_OFF);
+    EXPECT_EQ(CountedAllocations::During([&] {
+                EXPECT_TRUE(row.converter->ToKnxValue(row.dpt, row.value, groupValue));
+                EXPECT_TRUE(row.converter->FromKnxValue(row.dpt, groupValue, received));
+              }),
+              0);
+  }
+}
+
+TEST(BitConverterMessages, AnActiveTraceIsComposed) {
+  Nelmo::KnxConverter4Bit converter(Dpt3Range());
+  const ULOVALUE value = ULOVALUE::Double(50.0);
+  KnxStack::GroupValue groupValue;
+  TestSupport::LogCapture capture;
+  EXPECT_GT(CountedAllocations::During([&] { converter.ToKnxValue(Dpt3, value, groupValue); }), 0);
 }
 
 // ---------------------------------------------------------------------------

@@ -8,6 +8,7 @@
 
 #include <gtest/gtest.h>
 
+#include "CountedAllocations.h"
 #include "LogCapture.h"
 #include "ScalarConverterTestSupport.h"
 
@@ -582,6 +583,58 @@ TEST(IntegerConverterMessages, NothingIsWrittenWhileLoggingIsOff) {
   ULOVALUE value(IVT_UINT64);
   EXPECT_FALSE(unsigned48.FromKnxValue(Dpt242, GroupOf({0x01}, 8), value));
   EXPECT_TRUE(capture.Lines().empty());
+}
+
+// Clamped values included: the adjustment is composed only for an active
+// level, and the group values keep their few bytes inline.
+TEST(IntegerConverterMessages, NothingIsAllocatedWhileLoggingIsOff) {
+  Nelmo::KnxConverterByte8BitUnsigned byte;
+  Nelmo::KnxConverterInteger8BitSigned signed8(Dpt6Range());
+  Nelmo::KnxConverterInteger16BitUnsigned unsigned16(Dpt7Range());
+  Nelmo::KnxConverterInteger16BitSigned signed16(Dpt8Range());
+  Nelmo::KnxConverterInteger24BitUnsigned unsigned24(Dpt232Range());
+  Nelmo::KnxConverterInteger32BitUnsigned unsigned32(Dpt12Range());
+  Nelmo::KnxConverterInteger32BitSigned signed32(Dpt13Range());
+  Nelmo::KnxConverterInteger48BitUnsigned unsigned48(Dpt242Range());
+  struct Row {
+    KnxConverter* converter;
+    KNXDPT dpt;
+    ULOVALUE value;
+  };
+  const Row rows[] = {
+      {&byte, Dpt5, ULOVALUE::Byte(200)},
+      {&signed8, Dpt6, ULOVALUE::Int32(200)},
+      {&unsigned16, Dpt7, ULOVALUE::Int32(-5, IVT_UINT16)},
+      {&signed16, Dpt8, ULOVALUE::Int32(-40000)},
+      {&unsigned24, Dpt232, ULOVALUE::UInt32(UInt32Max)},
+      {&unsigned32, Dpt12, ULOVALUE::UInt32(UInt32Max)},
+      {&signed32, Dpt13, ULOVALUE::Int32(Int32Min)},
+      {&unsigned48, Dpt242, ULOVALUE::UInt64(UInt64Max)},
+  };
+  for (const Row& row : rows) {
+    SCOPED_TRACE(row.value.ToString());
+    KnxStack::GroupValue groupValue;
+    ULOVALUE received(row.value.GetType());
+    TestSupport::LogCapture capture(ULO_LOG_OFF);
+    EXPECT_EQ(CountedAllocations::During([&] {
+                EXPECT_TRUE(row.converter->ToKnxValue(row.dpt, row.value, groupValue));
+                EXPECT_TRUE(row.converter->FromKnxValue(row.dpt, groupValue, received));
+              }),
+              0);
+  }
+}
+
+TEST(IntegerConverterMessages, TheSizeMessageAllocatesOnlyWhenItsLevelIsActive) {
+  Nelmo::KnxConverterInteger48BitUnsigned converter(Dpt242Range());
+  const KnxStack::GroupValue groupValue = GroupOf({0x01, 0x02, 0x03, 0x04}, 32);
+  ULOVALUE value(IVT_UINT64);
+  {
+    TestSupport::LogCapture capture(ULO_LOG_OFF);
+    EXPECT_EQ(CountedAllocations::During([&] { converter.FromKnxValue(Dpt242, groupValue, value); }), 0);
+  }
+  TestSupport::LogCapture capture(ULO_LOG_ERROR);
+  EXPECT_GT(CountedAllocations::During([&] { converter.FromKnxValue(Dpt242, groupValue, value); }), 0);
+  EXPECT_EQ(capture.Lines().size(), 1U);
 }
 
 // ---------------------------------------------------------------------------

@@ -8,6 +8,7 @@
 
 #include <gtest/gtest.h>
 
+#include "CountedAllocations.h"
 #include "LogCapture.h"
 #include "ScalarConverterTestSupport.h"
 
@@ -212,6 +213,22 @@ TEST(SceneConverterMessages, ARefusalWritesOnlyTheTrace) {
   EXPECT_FALSE(converter.ToKnxValue(Dpt17, ULOVALUE::Double(2.5), groupValue));
   EXPECT_EQ(capture.Lines(), std::vector<LogLine>{Trace("ToKnxValue", "DPT is used. DPT = 17.1 ivt=3 val=2.5")});
   EXPECT_TRUE(IsUntouched(groupValue));
+}
+
+TEST(SceneConverterMessages, NothingIsAllocatedWhileLoggingIsOff) {
+  Nelmo::KnxConverterSceneNumber number(Dpt17Range());
+  Nelmo::KnxConverterSceneControl control(Dpt18Range());
+  for (KnxConverter* converter : {static_cast<KnxConverter*>(&number), static_cast<KnxConverter*>(&control)}) {
+    const ULOVALUE value = ULOVALUE::Int32(-100);
+    KnxStack::GroupValue groupValue;
+    ULOVALUE received(IVT_INT32);
+    TestSupport::LogCapture capture(ULO_LOG_OFF);
+    EXPECT_EQ(CountedAllocations::During([&] {
+                EXPECT_TRUE(converter->ToKnxValue(Dpt18, value, groupValue));
+                EXPECT_TRUE(converter->FromKnxValue(Dpt18, groupValue, received));
+              }),
+              0);
+  }
 }
 
 // ---------------------------------------------------------------------------
