@@ -1,0 +1,105 @@
+#pragma once
+
+// Arithmetic shared by the range classes. Internal to the library.
+
+#include <cmath>
+#include <cstdint>
+#include <limits>
+#include <type_traits>
+
+namespace Nelmo::RangeArithmetic {
+
+// Half away from zero, deliberately not half to even: 2.5 -> 3, -2.5 -> -3.
+inline double RoundHalfAwayFromZero(double x) {
+  if (x > 0.0) {
+    return x + 0.5;
+  }
+  if (x < 0.0) {
+    return x - 0.5;
+  }
+  return x;
+}
+
+// Truncates toward zero into Int. A double outside Int's range would be
+// undefined behaviour to convert, so it saturates at the nearer bound
+// instead (infinities included); NaN gives 0.
+template <typename Int>
+Int TruncateSaturated(double x) {
+  static_assert(std::is_integral<Int>::value, "integer target");
+  constexpr Int lowest = std::numeric_limits<Int>::min();
+  constexpr Int highest = std::numeric_limits<Int>::max();
+  // 2^digits, the first value above highest; exact in a double.
+  constexpr double limit = static_cast<double>(highest / 2 + 1) * 2.0;
+  if (std::isnan(x)) {
+    return 0;
+  }
+  if (x <= static_cast<double>(lowest)) {
+    return lowest;
+  }
+  if (x >= limit) {
+    return highest;
+  }
+  return static_cast<Int>(x);
+}
+
+// The rounding rule of every integer-valued ScaleTo/ScaleFrom.
+template <typename Int>
+Int RoundToInteger(double x) {
+  return TruncateSaturated<Int>(RoundHalfAwayFromZero(x));
+}
+
+// Internal to external: (value - internal minimum) * factor + external
+// minimum. The operands are doubles, so no difference can overflow.
+template <typename Int>
+Int ScaleToRounded(double value, double internalMinimum, double factor, double externalMinimum) {
+  return RoundToInteger<Int>((value - internalMinimum) * factor + externalMinimum);
+}
+
+// External to internal: internal minimum + (value - external minimum) / factor.
+template <typename Int>
+Int ScaleFromRounded(double value, double externalMinimum, double factor, double internalMinimum) {
+  return RoundToInteger<Int>(internalMinimum + (value - externalMinimum) / factor);
+}
+
+// max - min as a double, exact in 64 bits: computed on the unsigned
+// difference, so no span of two 64-bit bounds can overflow.
+template <typename Int>
+double Span(Int minimum, Int maximum) {
+  using Unsigned = std::make_unsigned_t<Int>;
+  if (maximum >= minimum) {
+    return static_cast<double>(static_cast<Unsigned>(static_cast<Unsigned>(maximum) - static_cast<Unsigned>(minimum)));
+  }
+  return -static_cast<double>(static_cast<Unsigned>(static_cast<Unsigned>(minimum) - static_cast<Unsigned>(maximum)));
+}
+
+// Reads 32 bits as two's complement without relying on the
+// implementation-defined unsigned-to-signed conversion.
+inline std::int32_t AsSigned32(std::uint32_t bits) {
+  constexpr std::uint32_t signBit = 0x80000000u;
+  if (bits < signBit) {
+    return static_cast<std::int32_t>(bits);
+  }
+  return static_cast<std::int32_t>(bits - signBit) + std::numeric_limits<std::int32_t>::min();
+}
+
+// Clamps value into [minimum, maximum], lower bound first. True when value
+// was inside and is untouched. A NaN fails both comparisons and stays.
+template <typename T>
+bool FitInto(T& value, const T& minimum, const T& maximum) {
+  if (value < minimum) {
+    value = minimum;
+    return false;
+  }
+  if (value > maximum) {
+    value = maximum;
+    return false;
+  }
+  return true;
+}
+
+template <typename T>
+bool IsWithin(const T& value, const T& minimum, const T& maximum) {
+  return value >= minimum && value <= maximum;
+}
+
+}  // namespace Nelmo::RangeArithmetic
