@@ -1,0 +1,249 @@
+#include <gtest/gtest.h>
+
+#include <cstdint>
+#include <limits>
+#include <string>
+#include <vector>
+
+#include "LogCapture.h"
+#include "LongIntegerRange.h"
+
+namespace {
+
+using Nelmo::LongIntegerRange;
+using TestSupport::LogCapture;
+using TestSupport::LogLine;
+
+constexpr std::int64_t Min64 = std::numeric_limits<std::int64_t>::min();
+constexpr std::int64_t Max64 = std::numeric_limits<std::int64_t>::max();
+constexpr std::int64_t Max24 = 16777215;
+constexpr std::int64_t MaxU32 = 4294967295;
+
+struct Bounds {
+  std::int64_t internalMinimum;
+  std::int64_t internalMaximum;
+  std::int64_t externalMinimum;
+  std::int64_t externalMaximum;
+};
+
+// Filled the way its owner fills it: bounds, factor 1.0, one calculation.
+LongIntegerRange Make(const Bounds& bounds) {
+  LongIntegerRange range;
+  range.internalMinimum = bounds.internalMinimum;
+  range.internalMaximum = bounds.internalMaximum;
+  range.externalMinimum = bounds.externalMinimum;
+  range.externalMaximum = bounds.externalMaximum;
+  range.scaleFactor = 1.0;
+  range.CalculateScaleFactor();
+  return range;
+}
+
+LogLine Error(const std::string& text) {
+  return LogLine{3, "KnxConverter", "CalculateScaleFactor", text};
+}
+
+TEST(LongIntegerRange, FieldsInOrder) {
+  const LongIntegerRange range{-1, MaxU32, Min64, Max64, 0.5};
+  EXPECT_EQ(range.internalMinimum, -1);
+  EXPECT_EQ(range.internalMaximum, MaxU32);
+  EXPECT_EQ(range.externalMinimum, Min64);
+  EXPECT_EQ(range.externalMaximum, Max64);
+  EXPECT_EQ(range.scaleFactor, 0.5);
+}
+
+TEST(LongIntegerRange, ScaleFactor) {
+  struct Row {
+    Bounds bounds;
+    double factor;
+  };
+  const Row rows[] = {
+      {{0, MaxU32, 0, MaxU32}, 1.0},
+      {{0, Max24, 0, Max24}, 1.0},
+      {{0, 100, 0, 255}, 2.55},
+      {{Min64, Max64, Min64, Max64}, 1.0},  // spans of 2^64 - 1 without overflow
+      {{0, 1, 0, Max64}, 9223372036854775807.0},
+      {{0, 100, 100, 0}, -1.0},       // reversed: mirrored map
+      {{MaxU32, MaxU32, 0, 1}, 1.0},  // invalid internal range: stays 1.0
+      {{0, 1, 5, 5}, 1.0},            // invalid external range: stays 1.0
+  };
+  for (const Row& row : rows) {
+    SCOPED_TRACE(Make(row.bounds).ToString());
+    EXPECT_EQ(Make(row.bounds).scaleFactor, row.factor);
+  }
+}
+
+TEST(LongIntegerRange, FailedCalculationLeavesTheFactorAsItIs) {
+  LongIntegerRange range{7, 7, 0, 10, 3.0};
+  range.CalculateScaleFactor();
+  EXPECT_EQ(range.scaleFactor, 3.0);
+}
+
+// The messages write each bound as its low 32 bits read as a signed 32-bit
+// number. Two non-zero integer spans always give a factor of at least
+// 2^-64, so the combined message cannot be reached with these ranges.
+TEST(LongIntegerRange, CalculateScaleFactorMessages) {
+  struct Row {
+    Bounds bounds;
+    std::vector<LogLine> lines;
+  };
+  const Row rows[] = {
+      {{MaxU32, MaxU32, 0, MaxU32},
+       {Error("Failed to calculate the scale factor because of invalid internal range [-1, -1].")}},
+      {{5, 5, 0, 1}, {Error("Failed to calculate the scale factor because of invalid internal range [5, 5].")}},
+      {{2147483648, 2147483648, 0, 1},
+       {Error("Failed to calculate the scale factor because of invalid internal range [-2147483648, -2147483648].")}},
+      {{-1, -1, 0, 1}, {Error("Failed to calculate the scale factor because of invalid internal range [-1, -1].")}},
+      {{0, 1, 4294967296, 4294967296},
+       {Error("Failed to calculate the scale factor because of invalid external range [0, 0].")}},
+      {{0, 1, 4294967297, 4294967297},
+       {Error("Failed to calculate the scale factor because of invalid external range [1, 1].")}},
+      {{0, 1, Min64, Min64}, {Error("Failed to calculate the scale factor because of invalid external range [0, 0].")}},
+      {{0, 1, Max64, Max64},
+       {Error("Failed to calculate the scale factor because of invalid external range [-1, -1].")}},
+      {{0, 1, -7, -7}, {Error("Failed to calculate the scale factor because of invalid external range [-7, -7].")}},
+      {{3, 3, 4, 4}, {Error("Failed to calculate the scale factor because of invalid internal range [3, 3].")}},
+      {{0, MaxU32, 0, MaxU32}, {}},
+      {{Min64, Max64, Max64, Min64}, {}},
+  };
+  for (const Row& row : rows) {
+    LogCapture capture;
+    const LongIntegerRange range = Make(row.bounds);
+    SCOPED_TRACE(range.ToString());
+    EXPECT_EQ(capture.Lines(), row.lines);
+  }
+}
+
+TEST(LongIntegerRange, NoMessageWhenErrorsAreNotLogged) {
+  LogCapture capture(ULO_LOG_OFF);
+  Make({MaxU32, MaxU32, 0, 1});
+  EXPECT_TRUE(capture.Lines().empty());
+}
+
+struct ScaleRow {
+  Bounds bounds;
+  std::int64_t value;
+  std::int64_t result;
+};
+
+TEST(LongIntegerRange, ScaleTo) {
+  const ScaleRow rows[] = {
+      {{0, MaxU32, 0, MaxU32}, MaxU32, MaxU32},
+      {{0, MaxU32, 0, MaxU32}, 0, 0},
+      {{0, Max24, 0, Max24}, Max24, Max24},
+      {{0, 100, 0, 255}, 50, 127},  // 127.49999999999999 + 0.5 truncates to 127
+      {{0, 100, 0, 255}, 100, 255},
+      {{-2, 2, -1, 1}, -3, -2},    // -1.5 rounds away from zero
+      {{-2, 2, -1, 1}, -1, -1},    // -0.5 rounds away from zero
+      {{-2, 2, -1, 1}, 0, 0},      // exactly 0 stays 0
+      {{-2, 2, -1, 1}, 1, 1},      // 0.5 rounds away from zero
+      {{-2, 2, -1, 1}, 3, 2},      // 1.5 rounds away from zero
+      {{-4, 4, -2, 2}, 5, 3},      // 2.5 becomes 3, not 2
+      {{0, 100, 100, 0}, 30, 70},  // reversed: mirrored
+      {{Min64, Max64, Min64, Max64}, 0, 0},
+      {{Min64, Max64, Min64, Max64}, Min64, Min64},
+      // 2^63 - 1 is 2^63 as a double, beyond the type: saturates back.
+      {{Min64, Max64, Min64, Max64}, Max64, Max64},
+      {{0, 1, 0, Max64}, 2, Max64},  // 2^64: saturates
+      {{0, 1, 0, Max64}, -2, Min64},
+      {{MaxU32, MaxU32, 0, 1}, MaxU32 + 7, 7},  // invalid internal range: factor 1.0, offset only
+  };
+  for (const ScaleRow& row : rows) {
+    const LongIntegerRange range = Make(row.bounds);
+    SCOPED_TRACE(range.ToString() + " value " + std::to_string(row.value));
+    EXPECT_EQ(range.ScaleTo(row.value), row.result);
+  }
+}
+
+TEST(LongIntegerRange, ScaleFrom) {
+  const ScaleRow rows[] = {
+      {{0, Max24, 0, Max24}, Max24, Max24},
+      {{0, Max24, 0, Max24}, 0, 0},
+      {{0, MaxU32, 0, MaxU32}, MaxU32, MaxU32},
+      {{0, 100, 0, 255}, 128, 50},  // 50.196 rounded
+      {{-1, 1, -4, 4}, -6, -2},     // -1.5 rounds away from zero
+      {{-1, 1, -4, 4}, -2, -1},     // -0.5 rounds away from zero
+      {{-1, 1, -4, 4}, 0, 0},       // exactly 0 stays 0
+      {{-1, 1, -4, 4}, 2, 1},       // 0.5 rounds away from zero
+      {{-1, 1, -4, 4}, 6, 2},       // 1.5 rounds away from zero
+      {{0, 100, 100, 0}, 70, 30},
+      {{Min64, Max64, Min64, Max64}, Min64, Min64},
+      {{Min64, Max64, Min64, Max64}, Max64, Max64},  // saturates back, as in ScaleTo
+  };
+  for (const ScaleRow& row : rows) {
+    const LongIntegerRange range = Make(row.bounds);
+    SCOPED_TRACE(range.ToString() + " value " + std::to_string(row.value));
+    EXPECT_EQ(range.ScaleFrom(row.value), row.result);
+  }
+}
+
+// A factor of 0 set by hand: 0 / 0 is NaN, which gives 0; infinities saturate.
+TEST(LongIntegerRange, NotANumberAndInfinitySaturate) {
+  struct Row {
+    std::int64_t value;
+    std::int64_t result;
+  };
+  const Row rows[] = {{0, 0}, {1, Max64}, {-1, Min64}};
+  const LongIntegerRange range{0, 1, 0, 1, 0.0};
+  for (const Row& row : rows) {
+    EXPECT_EQ(range.ScaleFrom(row.value), row.result);
+  }
+}
+
+TEST(LongIntegerRange, FitToRangeAndIsInRange) {
+  struct Row {
+    Bounds bounds;
+    std::int64_t value;
+    bool inRange;
+    bool untouched;
+    std::int64_t fitted;
+  };
+  const Row rows[] = {
+      {{0, MaxU32, 0, MaxU32}, -1, false, false, 0},
+      {{0, MaxU32, 0, MaxU32}, 0, true, true, 0},
+      {{0, MaxU32, 0, MaxU32}, MaxU32, true, true, MaxU32},
+      {{0, MaxU32, 0, MaxU32}, MaxU32 + 1, false, false, MaxU32},
+      {{0, MaxU32, 0, MaxU32}, Min64, false, false, 0},
+      {{0, MaxU32, 0, MaxU32}, Max64, false, false, MaxU32},
+      {{Min64, Max64, 0, 1}, Min64, true, true, Min64},
+      {{Min64, Max64, 0, 1}, Max64, true, true, Max64},
+      {{10, 0, 0, 1}, 5, false, false, 10},  // reversed: the lower bound is tested first
+      {{10, 0, 0, 1}, 20, false, false, 0},
+  };
+  for (const Row& row : rows) {
+    const LongIntegerRange range = Make(row.bounds);
+    SCOPED_TRACE(range.ToString() + " value " + std::to_string(row.value));
+    EXPECT_EQ(range.IsInRange(row.value), row.inRange);
+    std::int64_t value = row.value;
+    EXPECT_EQ(range.FitToRange(value), row.untouched);
+    EXPECT_EQ(value, row.fitted);
+  }
+}
+
+TEST(LongIntegerRange, ConversionsLogNothing) {
+  const LongIntegerRange range = Make({MaxU32, MaxU32, 0, 1});
+  LogCapture capture;
+  std::int64_t value = 0;
+  EXPECT_FALSE(range.FitToRange(value));
+  EXPECT_TRUE(range.IsInRange(value));
+  EXPECT_EQ(range.ScaleTo(MaxU32), 0);
+  EXPECT_EQ(range.ScaleFrom(0), MaxU32);
+  EXPECT_TRUE(capture.Lines().empty());
+}
+
+TEST(LongIntegerRange, ToString) {
+  struct Row {
+    LongIntegerRange range;
+    std::string text;
+  };
+  const Row rows[] = {
+      {{0, MaxU32, 0, MaxU32, 1.0}, "LongIntegerRange(0, 4294967295, 0, 4294967295)"},  // full 64-bit decimal
+      {{0, Max24, 0, Max24, 1.0}, "LongIntegerRange(0, 16777215, 0, 16777215)"},
+      {{Min64, Max64, -1, 1, 0.5},
+       "LongIntegerRange(-9223372036854775808, 9223372036854775807, -1, 1)"},  // the factor is not written
+  };
+  for (const Row& row : rows) {
+    EXPECT_EQ(row.range.ToString(), row.text);
+  }
+}
+
+}  // namespace
