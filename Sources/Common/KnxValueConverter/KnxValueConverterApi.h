@@ -2,6 +2,7 @@
 
 // Everything a consumer of the converter library needs: the facade, the DPT
 // table, the converter interface, the converters and the value ranges.
+#include "CodingUtf8.h"
 #include "DptValueEntry.h"
 #include "DptValueMap.h"
 #include "FloatRange.h"
