@@ -141,7 +141,11 @@ struct FromBytesRow {
 };
 
 void PrintTo(const FromBytesRow& row, std::ostream* out) {
-  *out << row.bytes.size() << " bytes" << (row.isOneBit ? ", one bit" : "");
+  static const char digits[] = "0123456789ABCDEF";
+  for (const unsigned char byte : row.bytes) {
+    *out << digits[byte >> 4] << digits[byte & 0x0F] << ' ';
+  }
+  *out << (row.isOneBit ? "one bit" : "bytes");
 }
 
 class ByteArrayToUloValueTest : public ::testing::TestWithParam<FromBytesRow> {};

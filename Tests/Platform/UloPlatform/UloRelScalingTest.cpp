@@ -1,7 +1,9 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <iomanip>
 #include <limits>
+#include <ostream>
 
 #include "UloRelScaling.h"
 
@@ -15,12 +17,28 @@ struct CodeRow {
 
 // Bit 3 set: increase (positive); bits 0-2: stop or a step of 100 / 2^(n-1).
 const CodeRow codes[] = {
-    {0x0, 0.0, 0x0},   {0x1, -100.0, 0x1}, {0x2, -50.0, 0x2},   {0x3, -25.0, 0x3}, {0x4, -12.5, 0x4},
-    {0x5, -6.25, 0x5}, {0x6, -3.125, 0x6}, {0x7, -1.5625, 0x7}, {0x8, 0.0, 0x0},  // increase with step 0 stops like
-                                                                                  // code 0
-    {0x9, 100.0, 0x9}, {0xA, 50.0, 0xA},   {0xB, 25.0, 0xB},    {0xC, 12.5, 0xC},  {0xD, 6.25, 0xD},
-    {0xE, 3.125, 0xE}, {0xF, 1.5625, 0xF},
+    {0x0, 0.0, 0x0},
+    {0x1, -100.0, 0x1},
+    {0x2, -50.0, 0x2},
+    {0x3, -25.0, 0x3},
+    {0x4, -12.5, 0x4},
+    {0x5, -6.25, 0x5},
+    {0x6, -3.125, 0x6},
+    {0x7, -1.5625, 0x7},
+    {0x8, 0.0, 0x0},  // increase with step 0 stops like
+                      // code 0
+    {0x9, 100.0, 0x9},
+    {0xA, 50.0, 0xA},
+    {0xB, 25.0, 0xB},
+    {0xC, 12.5, 0xC},
+    {0xD, 6.25, 0xD},
+    {0xE, 3.125, 0xE},
+    {0xF, 1.5625, 0xF},
 };
+
+void PrintTo(const CodeRow& row, std::ostream* out) {
+  *out << "code " << int{row.code};
+}
 
 class UloRelScalingCode : public ::testing::TestWithParam<CodeRow> {};
 
@@ -86,6 +104,10 @@ const PercentRow percents[] = {
     {std::numeric_limits<double>::denorm_min(), 0xF},
     {-std::numeric_limits<double>::denorm_min(), 0x7},
 };
+
+void PrintTo(const PercentRow& row, std::ostream* out) {
+  *out << std::setprecision(17) << row.percent << "%";
+}
 
 class UloRelScalingPercent : public ::testing::TestWithParam<PercentRow> {};
 

@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <ostream>
+
 #include "UloTime.h"
 
 namespace {
@@ -10,6 +12,10 @@ struct DateRow {
   unsigned char day;
   bool valid;
 };
+
+void PrintTo(const DateRow& row, std::ostream* out) {
+  *out << row.year << "-" << int{row.month} << "-" << int{row.day};
+}
 
 class UloTimeValidDate : public ::testing::TestWithParam<DateRow> {};
 
@@ -47,6 +53,10 @@ struct TimeRow {
   unsigned char second;
   bool valid;
 };
+
+void PrintTo(const TimeRow& row, std::ostream* out) {
+  *out << int{row.hour} << ":" << int{row.minute} << ":" << int{row.second};
+}
 
 class UloTimeValidTime : public ::testing::TestWithParam<TimeRow> {};
 
