@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <string>
+#include <utility>
 
 #include "UloTime.h"
 #include "UloValueType.h"
@@ -58,9 +59,23 @@ class ULOVALUE {
   ULOTIME& GetTime() { return m_time; }
   void SetTime(const ULOTIME& value) { m_time = value; }
 
-  // Converts src into this value's current type; false (and this value's tag
-  // unchanged) when that cannot be done.
+  // Converts src into this value's current type; false, with tag and payload
+  // unchanged, when that cannot be done. The same type is a plain copy.
+  // - numbers into numbers when the value fits (doubles rounded half away from
+  //   zero; NaN, infinities and out-of-range values fail); a boolean is 0 or 1
+  // - numbers into a boolean as non-zero (NaN fails)
+  // - a text holding a whole number or a decimal ("-12", "21.5", "1e3"; no
+  //   blanks, no "inf" or "nan") into a number, not into a boolean
+  // - a number or boolean into a text as its ToString
+  // - between date, time and date-time kinds the fields both have: the date,
+  //   or the time of day with weekday and summer-time flag; the rest is zero.
+  //   A date and a time share nothing and do not convert.
+  // Nothing else converts, and nothing converts into or out of the empty kinds.
   bool Assign(const ULOVALUE& src);
+  // Integers and time spans in decimal, doubles in the shortest form that
+  // reads back ("21.5", "1e+300", "nan", "-inf"), "true"/"false", texts as
+  // they are, "YYYY-MM-DD", "hh:mm:ss", "YYYY-MM-DD hh:mm:ss"; "" for the
+  // empty kinds and unknown types.
   std::string ToString() const;
 
  private:
