@@ -1,0 +1,15 @@
+#pragma once
+
+#include <string_view>
+
+#include "KnxStack.h"
+
+namespace Knxconv {
+
+// Reads a payload written as hexadecimal pairs, in either case, with or
+// without blanks between the pairs ("0C 33", "0c33"). Throws InputError for
+// an empty payload, a character that is not a hex digit, or a group of odd
+// length.
+KnxStack::BinaryData ParseHex(std::string_view text);
+
+}  // namespace Knxconv

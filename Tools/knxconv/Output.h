@@ -1,0 +1,57 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include <nlohmann/json.hpp>
+
+#include "KnxValueConverterApi.h"
+#include "TraceReader.h"
+
+namespace Knxconv {
+
+using Json = nlohmann::ordered_json;
+
+// One line of JSON; text that is not UTF-8 is replaced, never thrown over.
+std::string JsonLine(const Json& json);
+
+// The value as JSON: booleans and numbers as such, no value as null, texts,
+// dates and times as their text form.
+Json ValueJson(const ULOVALUE& value);
+
+Json EncodeJson(const KNXDPT& dpt, const KnxStack::GroupValue& groupValue);
+Json DecodeJson(const KNXDPT& dpt, const ULOVALUE& value, UloDP::UloValueSubType subType);
+
+// One row of the DPT table as the tool shows it.
+struct TableRow {
+  KNXDPT dpt;
+  std::string label;
+  UloValueType valueType = IVT_ANY;
+  UloDP::UloValueSubType subType = UloDP::IVST_NONE;
+  std::string converter;
+  std::optional<std::string> range;
+};
+
+TableRow DescribeRow(const Nelmo::DptValueEntry& entry);
+// The rows as aligned columns, one line each: DPT, label, bits, value type,
+// subtype, converter, range ("-" for none).
+std::string TableText(const std::vector<TableRow>& rows);
+Json TableJson(const std::vector<TableRow>& rows);
+
+// A telegram of a trace and what became of it.
+struct TraceResult {
+  Telegram telegram;
+  // The DPT as the library used it, when the DPT could be read.
+  std::optional<KNXDPT> dpt;
+  bool converted = false;
+  ULOVALUE value;
+  UloDP::UloValueSubType subType = UloDP::IVST_NONE;
+  std::string error;
+};
+
+// "time  source -> destination  dpt  type  value", or "... error: why".
+std::string TraceText(const TraceResult& result);
+Json TraceJson(const TraceResult& result);
+
+}  // namespace Knxconv
