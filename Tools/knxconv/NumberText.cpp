@@ -60,10 +60,12 @@ std::optional<std::int64_t> ParseSigned(std::string_view text, std::int64_t mini
 }
 
 std::optional<double> ParseDecimal(std::string_view text) {
-  const std::string_view number = (!text.empty() && text.front() == '+') ? text.substr(1) : text;
-  const std::string_view unsignedPart = (!number.empty() && number.front() == '-') ? number.substr(1) : number;
+  const bool plus = !text.empty() && text.front() == '+';
+  const std::string_view number = plus ? text.substr(1) : text;
+  const bool minus = !number.empty() && number.front() == '-';
+  const std::string_view unsignedPart = minus ? number.substr(1) : number;
   // Only plain decimal forms: no "inf", "nan" or hexadecimal floats.
-  if (unsignedPart.empty() || !(IsDigit(unsignedPart.front()) || unsignedPart.front() == '.')) {
+  if ((plus && minus) || unsignedPart.empty() || !(IsDigit(unsignedPart.front()) || unsignedPart.front() == '.')) {
     return std::nullopt;
   }
   double value = 0.0;
