@@ -1,10 +1,16 @@
-# Front door: `make demo` and `make test` install what is missing, build and run.
+# Front door. `make demo` and `make test` install what is missing (Debian
+# packages, with apt-get), build and run; the other targets are listed in the
+# README.
 JOBS ?= 2
+FUZZ_SECONDS ?= 60
+FUZZ_SECONDS_IN_TEST ?= 10
 CMAKE_FLAGS ?=
 PACKAGES := g++ cmake make googletest libgtest-dev libgmock-dev libhowardhinnant-date-dev \
-            g++-arm-linux-gnueabihf qemu-user libcli11-dev nlohmann-json3-dev
+            g++-arm-linux-gnueabihf qemu-user libcli11-dev nlohmann-json3-dev \
+            clang libclang-rt-14-dev valgrind libbenchmark-dev
 
-.PHONY: all deps demo test test-host test-armhf test-asan build-host build-armhf build-asan clean
+.PHONY: all deps demo test test-host test-armhf test-asan test-fuzz test-valgrind \
+        build-host build-armhf build-asan build-fuzz fuzz tsan bench instructions clean
 
 all: build-host
 
@@ -28,6 +34,17 @@ build/armhf/CMakeCache.txt:
 build/asan/CMakeCache.txt:
 	cmake -S . -B build/asan -DCMAKE_BUILD_TYPE=Debug -DKNXCONV_SANITIZE=ON $(CMAKE_FLAGS)
 
+build/fuzz/CMakeCache.txt:
+	CXX=clang++ cmake -S . -B build/fuzz -DCMAKE_BUILD_TYPE=RelWithDebInfo -DKNXCONV_BUILD_FUZZERS=ON \
+	  -DKNXCONV_BUILD_TESTS=OFF -DKNXCONV_BUILD_TOOLS=OFF $(CMAKE_FLAGS)
+
+build/tsan/CMakeCache.txt:
+	cmake -S . -B build/tsan -DCMAKE_BUILD_TYPE=RelWithDebInfo -DKNXCONV_TSAN=ON -DKNXCONV_BUILD_TOOLS=OFF $(CMAKE_FLAGS)
+
+build/bench/CMakeCache.txt:
+	cmake -S . -B build/bench -DCMAKE_BUILD_TYPE=Release -DKNXCONV_BUILD_BENCHMARKS=ON \
+	  -DKNXCONV_BUILD_TESTS=OFF -DKNXCONV_BUILD_TOOLS=OFF $(CMAKE_FLAGS)
+
 build-host: deps build/host/CMakeCache.txt
 	cmake --build build/host -j$(JOBS)
 
@@ -37,8 +54,11 @@ build-armhf: deps build/armhf/CMakeCache.txt
 build-asan: deps build/asan/CMakeCache.txt
 	cmake --build build/asan -j$(JOBS)
 
+build-fuzz: deps build/fuzz/CMakeCache.txt
+	cmake --build build/fuzz -j$(JOBS)
+
 demo: build-host
-	./build/host/Tools/knxconv/knxconv trace examples/telegrams.csv
+	./build/host/Tools/knxconv/knxconv trace examples/telegrams.csv || true
 
 test-host: build-host
 	cd build/host && ctest --output-on-failure -j$(JOBS)
@@ -50,7 +70,27 @@ test-asan: build-asan
 	cd build/asan && ASAN_OPTIONS=detect_leaks=1:abort_on_error=1 UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1 \
 	  ctest --output-on-failure -j$(JOBS)
 
-test: test-host test-armhf test-asan
+test-fuzz: build-fuzz
+	Fuzz/run-fuzzers.sh build/fuzz $(FUZZ_SECONDS_IN_TEST)
+
+test-valgrind: build-host
+	scripts/valgrind-trace.sh build/host/Tools/knxconv/knxconv examples/telegrams.csv
+
+test: test-host test-armhf test-asan test-fuzz test-valgrind
+
+fuzz: build-fuzz
+	Fuzz/run-fuzzers.sh build/fuzz $(FUZZ_SECONDS)
+
+tsan: deps build/tsan/CMakeCache.txt
+	cmake --build build/tsan -j$(JOBS) --target ConcurrentConversionTest StandardTableConcurrencyTest
+	cd build/tsan && TSAN_OPTIONS=halt_on_error=1 ctest --output-on-failure -R 'Concurren'
+
+bench: deps build/bench/CMakeCache.txt
+	cmake --build build/bench -j$(JOBS)
+	./build/bench/Benchmarks/ConversionBenchmark --benchmark_out=build/bench.json --benchmark_out_format=json
+
+instructions: bench
+	scripts/count-instructions.sh build/bench/Benchmarks/InstructionCount
 
 clean:
 	rm -rf build
