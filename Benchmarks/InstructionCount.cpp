@@ -28,7 +28,7 @@ int main(int argc, char** argv) {
     std::cerr << "usage: InstructionCount to|from MAIN.SUB COUNT\n";
     return 2;
   }
-  const std::string direction = argv[1];
+  const bool toKnx = std::string(argv[1]) == "to";
   const std::string dptText = argv[2];
   const long count = std::strtol(argv[3], nullptr, 10);
   const auto dot = dptText.find('.');
@@ -49,8 +49,8 @@ int main(int argc, char** argv) {
   ULOVALUE value;
   long failures = 0;
   for (long i = 0; i < count; ++i) {
-    const bool converted = direction == "to" ? converter.ToKnxValue(dpt, sample->value, sent)
-                                             : converter.FromKnxValue(dpt, received, value);
+    const bool converted =
+        toKnx ? converter.ToKnxValue(dpt, sample->value, sent) : converter.FromKnxValue(dpt, received, value);
     failures += converted ? 0 : 1;
   }
   return failures == 0 ? 0 : 1;
