@@ -7,10 +7,11 @@ FUZZ_SECONDS_IN_TEST ?= 10
 CMAKE_FLAGS ?=
 PACKAGES := g++ cmake make googletest libgtest-dev libgmock-dev libhowardhinnant-date-dev \
             g++-arm-linux-gnueabihf qemu-user libcli11-dev nlohmann-json3-dev \
-            clang libclang-rt-14-dev valgrind libbenchmark-dev
+            clang libclang-rt-14-dev valgrind libbenchmark-dev clang-format clang-tidy pkgconf dpkg-dev
 
 .PHONY: all deps demo test test-host test-armhf test-asan test-fuzz test-valgrind \
-        build-host build-armhf build-asan build-fuzz fuzz tsan bench instructions clean
+        build-host build-armhf build-asan build-fuzz fuzz tsan bench instructions clean \
+        test-consumer check-includes format-check
 
 all: build-host
 
@@ -76,7 +77,18 @@ test-fuzz: build-fuzz
 test-valgrind: build-host
 	scripts/valgrind-trace.sh build/host/Tools/knxconv/knxconv examples/telegrams.csv
 
-test: test-host test-armhf test-asan test-fuzz test-valgrind
+# The installed package as a server developer uses it (CMake and pkg-config).
+test-consumer: build-host
+	scripts/test-consumer.sh build/host build/consumer
+
+# The converter library includes only the platform libraries' umbrella headers.
+check-includes:
+	scripts/check-includes.sh
+
+format-check:
+	scripts/format-check.sh
+
+test: test-host test-armhf test-asan test-fuzz test-valgrind test-consumer check-includes format-check
 
 fuzz: build-fuzz
 	Fuzz/run-fuzzers.sh build/fuzz $(FUZZ_SECONDS)
