@@ -2,8 +2,10 @@
 
 #include <cstdint>
 #include <string>
+#include <type_traits>
 
 #include "NelmoExport.h"
+#include "RangeClamp.h"
 
 namespace Nelmo {
 
@@ -21,6 +23,12 @@ class NELMO_EXPORT IntegerRange {
   bool IsInRange(std::int32_t value) const;
   // True when value was inside and is untouched; false when moved to a bound.
   bool FitToRange(std::int32_t& value) const;
+  // The same for a value held in a plain long, which is not std::int32_t
+  // (and may be wider): compared in the caller's type.
+  template <typename Long, std::enable_if_t<std::is_same_v<Long, long>, int> = 0>
+  bool FitToRange(Long& value) const {
+    return RangeClamp::FitInto<Long>(value, internalMinimum, internalMaximum);
+  }
   std::int32_t ScaleTo(std::int32_t value) const;
   std::int32_t ScaleFrom(std::int32_t value) const;
   void CalculateScaleFactor();

@@ -2,8 +2,10 @@
 
 #include <cstdint>
 #include <string>
+#include <type_traits>
 
 #include "NelmoExport.h"
+#include "RangeClamp.h"
 
 namespace Nelmo {
 
@@ -19,6 +21,12 @@ class NELMO_EXPORT LongIntegerRange {
 
   bool IsInRange(std::int64_t value) const;
   bool FitToRange(std::int64_t& value) const;
+  // The same for a value held in a plain long long where that is not
+  // std::int64_t.
+  template <typename LongLong, std::enable_if_t<std::is_same_v<LongLong, long long>, int> = 0>
+  bool FitToRange(LongLong& value) const {
+    return RangeClamp::FitInto<LongLong>(value, internalMinimum, internalMaximum);
+  }
   std::int64_t ScaleTo(std::int64_t value) const;
   std::int64_t ScaleFrom(std::int64_t value) const;
   void CalculateScaleFactor();
@@ -37,6 +45,12 @@ class NELMO_EXPORT UnsignedLongIntegerRange {
 
   bool IsInRange(std::uint64_t value) const;
   bool FitToRange(std::uint64_t& value) const;
+  // The same for a value held in a plain unsigned long long where that is
+  // not std::uint64_t.
+  template <typename LongLong, std::enable_if_t<std::is_same_v<LongLong, unsigned long long>, int> = 0>
+  bool FitToRange(LongLong& value) const {
+    return RangeClamp::FitInto<LongLong>(value, internalMinimum, internalMaximum);
+  }
   std::uint64_t ScaleTo(std::uint64_t value) const;
   std::uint64_t ScaleFrom(std::uint64_t value) const;
   void CalculateScaleFactor();

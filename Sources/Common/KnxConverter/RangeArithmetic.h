@@ -7,6 +7,8 @@
 #include <limits>
 #include <type_traits>
 
+#include "RangeClamp.h"
+
 namespace Nelmo::RangeArithmetic {
 
 // Half away from zero, deliberately not half to even: 2.5 -> 3, -2.5 -> -3.
@@ -82,20 +84,7 @@ inline std::int32_t AsSigned32(std::uint32_t bits) {
   return static_cast<std::int32_t>(bits - signBit) + std::numeric_limits<std::int32_t>::min();
 }
 
-// Clamps value into [minimum, maximum], lower bound first. True when value
-// was inside and is untouched. A NaN fails both comparisons and stays.
-template <typename T>
-bool FitInto(T& value, const T& minimum, const T& maximum) {
-  if (value < minimum) {
-    value = minimum;
-    return false;
-  }
-  if (value > maximum) {
-    value = maximum;
-    return false;
-  }
-  return true;
-}
+using RangeClamp::FitInto;
 
 template <typename T>
 bool IsWithin(const T& value, const T& minimum, const T& maximum) {

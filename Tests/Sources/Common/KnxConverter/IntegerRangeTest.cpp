@@ -249,6 +249,31 @@ TEST(IntegerRange, FitToRangeAndIsInRange) {
   }
 }
 
+// A caller may hold the value in a plain long, a type of its own that is
+// 64 bits wide on some hosts.
+TEST(IntegerRange, FitToRangeOfAPlainLong) {
+  struct Row {
+    long value;
+    bool untouched;
+    long fitted;
+  };
+  const Row rows[] = {
+      {-128, true, -128},
+      {127, true, 127},
+      {-129, false, -128},
+      {128, false, 127},
+      {std::numeric_limits<long>::min(), false, -128},
+      {std::numeric_limits<long>::max(), false, 127},
+  };
+  const IntegerRange range = Make({-128, 127, 0, 255});
+  for (const Row& row : rows) {
+    SCOPED_TRACE(row.value);
+    long value = row.value;
+    EXPECT_EQ(range.FitToRange(value), row.untouched);
+    EXPECT_EQ(value, row.fitted);
+  }
+}
+
 TEST(IntegerRange, ConversionsLogNothing) {
   const IntegerRange range = Make({5, 5, 0, 10});
   LogCapture capture;

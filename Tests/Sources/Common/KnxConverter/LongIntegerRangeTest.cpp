@@ -219,6 +219,31 @@ TEST(LongIntegerRange, FitToRangeAndIsInRange) {
   }
 }
 
+// A caller may hold the value in a plain long long, which need not be
+// std::int64_t.
+TEST(LongIntegerRange, FitToRangeOfAPlainLongLong) {
+  struct Row {
+    long long value;
+    bool untouched;
+    long long fitted;
+  };
+  const Row rows[] = {
+      {0, true, 0},
+      {4294967295, true, 4294967295},
+      {-1, false, 0},
+      {4294967296, false, 4294967295},
+      {std::numeric_limits<long long>::min(), false, 0},
+      {std::numeric_limits<long long>::max(), false, 4294967295},
+  };
+  const LongIntegerRange range = Make({0, MaxU32, 0, MaxU32});
+  for (const Row& row : rows) {
+    SCOPED_TRACE(row.value);
+    long long value = row.value;
+    EXPECT_EQ(range.FitToRange(value), row.untouched);
+    EXPECT_EQ(value, row.fitted);
+  }
+}
+
 TEST(LongIntegerRange, ConversionsLogNothing) {
   const LongIntegerRange range = Make({MaxU32, MaxU32, 0, 1});
   LogCapture capture;

@@ -215,6 +215,27 @@ TEST(UnsignedLongIntegerRange, FitToRangeAndIsInRange) {
   }
 }
 
+// A caller may hold the value in a plain unsigned long long, which need not
+// be std::uint64_t.
+TEST(UnsignedLongIntegerRange, FitToRangeOfAPlainUnsignedLongLong) {
+  struct Row {
+    unsigned long long value;
+    bool untouched;
+    unsigned long long fitted;
+  };
+  const Row rows[] = {
+      {10, true, 10},  {20, true, 20}, {9, false, 10},
+      {21, false, 20}, {0, false, 10}, {std::numeric_limits<unsigned long long>::max(), false, 20},
+  };
+  const UnsignedLongIntegerRange range = Make({10, 20, 0, 1});
+  for (const Row& row : rows) {
+    SCOPED_TRACE(row.value);
+    unsigned long long value = row.value;
+    EXPECT_EQ(range.FitToRange(value), row.untouched);
+    EXPECT_EQ(value, row.fitted);
+  }
+}
+
 TEST(UnsignedLongIntegerRange, ConversionsLogNothing) {
   const UnsignedLongIntegerRange range = Make({10, 5, 0, 100});
   LogCapture capture;
