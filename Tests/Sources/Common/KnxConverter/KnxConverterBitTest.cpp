@@ -210,6 +210,25 @@ TEST(KnxConverter4Bit, ReceivesTheSignedStep) {
   }
 }
 
+// A range narrower than the steps limits what is sent, not what arrives.
+TEST(KnxConverter4Bit, ReceivesStepsBeyondItsRangeUnclamped) {
+  Nelmo::KnxConverter4Bit converter(Nelmo::FloatIntegerRange(-50.0, 50.0, 0, 15));
+  struct Row {
+    Bytes bytes;
+    double value;
+  };
+  const Row rows[] = {
+      {{0x09}, 100.0},
+      {{0x01}, -100.0},
+  };
+  for (const Row& row : rows) {
+    SCOPED_TRACE(static_cast<int>(row.bytes[0]));
+    ULOVALUE value = ULOVALUE::Double(7.0);
+    EXPECT_TRUE(converter.FromKnxValue(Dpt3, GroupOf(row.bytes, 4), value));
+    EXPECT_EQ(value.GetDouble(), row.value);
+  }
+}
+
 TEST(KnxConverter4Bit, RefusesAnythingButADoubleOnMainNumber3Silently) {
   Nelmo::KnxConverter4Bit converter(Dpt3Range());
   struct Row {

@@ -375,6 +375,60 @@ const ClampRow clampRows[] = {
 INSTANTIATE_TEST_SUITE_P(OutsideTheInternalRange, ReceiveClamp, testing::ValuesIn(clampRows),
                          [](const testing::TestParamInfo<ClampRow>& info) { return std::string(info.param.name); });
 
+// The floating-point members clamp with their range but never scale on send;
+// on receive only the 2-octet member scales back. A range whose external
+// side is ten times its internal side shows which direction uses it.
+FloatRange TenfoldRange() {
+  FloatRange range;
+  range.internalMinimum = 0.0;
+  range.internalMaximum = 100.0;
+  range.externalMinimum = 0.0;
+  range.externalMaximum = 1000.0;
+  range.scaleFactor = 1.0;
+  range.CalculateScaleFactor();
+  return range;
+}
+
+std::unique_ptr<KnxConverter> Tenfold16() {
+  return std::make_unique<Nelmo::KnxConverterFloat16BitFloat>(TenfoldRange());
+}
+std::unique_ptr<KnxConverter> Tenfold32() {
+  return std::make_unique<Nelmo::KnxConverterFloat32BitFloat>(TenfoldRange());
+}
+
+struct TenfoldRow {
+  const char* name;
+  Maker make;
+  KNXDPT dpt;
+  double sent;
+  Bytes bytes;
+  unsigned int size;
+  double received;
+};
+
+class FloatTenfoldRange : public testing::TestWithParam<TenfoldRow> {};
+
+TEST_P(FloatTenfoldRange, SendsUnscaledAndReceivesAsTheMemberDoes) {
+  const TenfoldRow& row = GetParam();
+  KnxStack::GroupValue groupValue;
+  EXPECT_TRUE(row.make()->ToKnxValue(row.dpt, ULOVALUE::Double(row.sent), groupValue));
+  EXPECT_EQ(RawBytes(groupValue), row.bytes);
+  EXPECT_EQ(groupValue.GetDefinedSize(), row.size);
+  ULOVALUE value = ULOVALUE::Double(-1.0);
+  EXPECT_TRUE(row.make()->FromKnxValue(row.dpt, Telegram(row.bytes, row.size), value));
+  EXPECT_EQ(value.GetDouble(), row.received);
+}
+
+const TenfoldRow tenfoldRows[] = {
+    {"P9_Fifty", Tenfold16, Dpt9_x, 50.0, {0x14, 0xE2}, 16, 5.0},
+    {"P9_ClampedTo100", Tenfold16, Dpt9_x, 150.0, {0x1C, 0xE2}, 16, 10.0},
+    {"P14_Fifty", Tenfold32, Dpt14_x, 50.0, {0x42, 0x48, 0x00, 0x00}, 32, 50.0},
+    {"P14_ClampedTo100", Tenfold32, Dpt14_x, 150.0, {0x42, 0xC8, 0x00, 0x00}, 32, 100.0},
+};
+
+INSTANTIATE_TEST_SUITE_P(InternalAndExternalDiffer, FloatTenfoldRange, testing::ValuesIn(tenfoldRows),
+                         [](const testing::TestParamInfo<TenfoldRow>& info) { return std::string(info.param.name); });
+
 // --- Messages ----------------------------------------------------------------
 
 using TestSupport::LogLine;

@@ -343,6 +343,86 @@ TEST(KnxConverterInteger48BitUnsigned, ReceivesMalformedBuffersWithoutOverrun) {
 }
 
 // ---------------------------------------------------------------------------
+// Ranges that scale: the scaled number is cut to the bus field's width on the
+// way out, and the received field is scaled back without clamping.
+
+TEST(IntegerConverterScaling, TheScaledNumberKeepsOnlyTheFieldsLowBits) {
+  Nelmo::KnxConverterInteger8BitSigned signed8(IntegerRangeOf(0, 100, 0, 255));
+  Nelmo::KnxConverterInteger16BitUnsigned unsigned16(IntegerRangeOf(0, 10, 0, 100000));
+  Nelmo::KnxConverterInteger16BitUnsigned unsigned16Shifted(IntegerRangeOf(-10, 10, -20, 20));
+  Nelmo::KnxConverterInteger16BitSigned signed16(IntegerRangeOf(-10, 10, -100000, 100000));
+  Nelmo::KnxConverterInteger24BitUnsigned unsigned24Negative(LongIntegerRangeOf(0, 10, -10, 0));
+  Nelmo::KnxConverterInteger24BitUnsigned unsigned24Wide(LongIntegerRangeOf(0, 100, 0, 33554432));
+  Nelmo::KnxConverterInteger32BitUnsigned unsigned32Negative(LongIntegerRangeOf(0, 10, -10, 0));
+  Nelmo::KnxConverterInteger32BitUnsigned unsigned32Wide(LongIntegerRangeOf(0, 10, 0, 42949672970LL));
+  Nelmo::KnxConverterInteger48BitUnsigned unsigned48Wide(UnsignedLongIntegerRangeOf(0, 1, 0, UInt48Max + 6));
+  struct Row {
+    const char* name;
+    KnxConverter* converter;
+    ULOVALUE value;
+    Bytes bytes;
+  };
+  const Row rows[] = {
+      {"signed 8: 255 as signed char", &signed8, ULOVALUE::Int32(100), {0xFF}},
+      {"signed 8: 127.49999999999999 rounds to 127", &signed8, ULOVALUE::Int32(50), {0x7F}},
+      {"unsigned 16: 100000 masked", &unsigned16, ULOVALUE::UInt16(10), {0x86, 0xA0}},
+      {"unsigned 16: -10 masked", &unsigned16Shifted, ULOVALUE::Int32(-5, IVT_UINT16), {0xFF, 0xF6}},
+      {"signed 16: -40000 as short", &signed16, ULOVALUE::Int32(-4), {0x63, 0xC0}},
+      {"unsigned 24: -10 in 24 bits", &unsigned24Negative, ULOVALUE::UInt32(0), {0xFF, 0xFF, 0xF6}},
+      {"unsigned 24: 0x1800000 in 24 bits", &unsigned24Wide, ULOVALUE::UInt32(75), {0x80, 0x00, 0x00}},
+      {"unsigned 32: -10 in 32 bits", &unsigned32Negative, ULOVALUE::UInt32(0), {0xFF, 0xFF, 0xFF, 0xF6}},
+      {"unsigned 32: 0x100000001 in 32 bits", &unsigned32Wide, ULOVALUE::UInt32(1), {0x00, 0x00, 0x00, 0x01}},
+      {"unsigned 48: 2^48 + 5 in 48 bits", &unsigned48Wide, ULOVALUE::UInt64(1), {0x00, 0x00, 0x00, 0x00, 0x00, 0x05}},
+  };
+  for (const Row& row : rows) {
+    SCOPED_TRACE(row.name);
+    TestSupport::LogCapture capture(ULO_LOG_INFO);
+    KnxStack::GroupValue groupValue;
+    EXPECT_TRUE(row.converter->ToKnxValue(Dpt8, row.value, groupValue));
+    EXPECT_TRUE(Holds(groupValue, row.bytes, static_cast<unsigned int>(row.bytes.size() * 8)));
+    EXPECT_TRUE(capture.Lines().empty());  // inside the internal range: nothing adjusted
+  }
+}
+
+TEST(IntegerConverterScaling, TheReceivedFieldIsScaledBackWithoutClamping) {
+  Nelmo::KnxConverterInteger8BitSigned signed8(IntegerRangeOf(0, 100, 0, 255));
+  Nelmo::KnxConverterInteger8BitSigned signed8Narrow(IntegerRangeOf(-10, 10, -100, 100));
+  Nelmo::KnxConverterInteger16BitUnsigned unsigned16(IntegerRangeOf(-100, 100, 0, 200));
+  Nelmo::KnxConverterInteger16BitSigned signed16(IntegerRangeOf(-10, 10, -100, 100));
+  Nelmo::KnxConverterInteger24BitUnsigned unsigned24(LongIntegerRangeOf(-10, 0, 0, 10));
+  Nelmo::KnxConverterInteger32BitUnsigned unsigned32(LongIntegerRangeOf(0, 100, 0, 1000));
+  Nelmo::KnxConverterInteger32BitSigned signed32(IntegerRangeOf(-1, 1, -1000, 1000));
+  Nelmo::KnxConverterInteger48BitUnsigned unsigned48(UnsignedLongIntegerRangeOf(0, 255, 0, 65535));
+  struct Row {
+    const char* name;
+    KnxConverter* converter;
+    Bytes bytes;
+    UloValueType type;  // as the DPT row sets it before the call
+    std::string value;
+  };
+  const Row rows[] = {
+      {"signed 8: 127 / 2.55", &signed8, {0x7F}, IVT_INT32, "50"},
+      {"signed 8: -128 / 2.55", &signed8, {0x80}, IVT_INT32, "-50"},
+      {"signed 8: 12.7 beyond the internal maximum", &signed8Narrow, {0x7F}, IVT_INT32, "13"},
+      {"unsigned 16: into a signed internal range", &unsigned16, {0x00, 0x00}, IVT_INT32, "-100"},
+      {"unsigned 16: external maximum", &unsigned16, {0x00, 0xC8}, IVT_INT32, "100"},
+      {"signed 16: -10 / 10", &signed16, {0xFF, 0xF6}, IVT_INT32, "-1"},
+      {"unsigned 24: -10 as unsigned 32 bits", &unsigned24, {0x00, 0x00, 0x00}, IVT_UINT32, "4294967286"},
+      {"unsigned 32: far beyond the internal maximum", &unsigned32, {0xFF, 0xFF, 0xFF, 0xFF}, IVT_UINT32, "429496730"},
+      {"signed 32: far beyond the internal maximum", &signed32, {0x7F, 0xFF, 0xFF, 0xFF}, IVT_INT32, "2147484"},
+      {"signed 32: external minimum", &signed32, {0xFF, 0xFF, 0xFC, 0x18}, IVT_INT32, "-1"},
+      {"unsigned 48: 32768 / 257", &unsigned48, {0x00, 0x00, 0x00, 0x00, 0x80, 0x00}, IVT_UINT64, "128"},
+  };
+  for (const Row& row : rows) {
+    SCOPED_TRACE(row.name);
+    ULOVALUE value(row.type);
+    EXPECT_TRUE(
+        row.converter->FromKnxValue(Dpt8, GroupOf(row.bytes, static_cast<unsigned int>(row.bytes.size() * 8)), value));
+    EXPECT_EQ(value.ToString(), row.value);
+  }
+}
+
+// ---------------------------------------------------------------------------
 // Messages
 
 TEST(IntegerConverterMessages, EachConversionIsTracedAtLevel0) {
