@@ -7,7 +7,7 @@
 #include <stdexcept>
 #include <string>
 
-#include "AllocationCounter.h"
+#include "CountedAllocations.h"
 #include "KnxValueConverterApi.h"
 #include "StandardRowSamples.h"
 
@@ -21,7 +21,7 @@ const Nelmo::KnxValueConverter& Converter() {
 }
 
 void ReportAllocations(benchmark::State& state, std::uint64_t before) {
-  const double allocations = static_cast<double>(AllocationCount() - before);
+  const double allocations = static_cast<double>(CountedAllocations::Total() - before);
   state.counters["allocs_per_op"] = benchmark::Counter(allocations / static_cast<double>(state.iterations()));
 }
 
@@ -33,7 +33,7 @@ void ToKnx(benchmark::State& state, const RowSample& sample) {
     state.SkipWithError("conversion refused");
     return;
   }
-  const std::uint64_t before = AllocationCount();
+  const std::uint64_t before = CountedAllocations::Total();
   for (auto _ : state) {
     bool converted = converter.ToKnxValue(dpt, sample.value, groupValue);
     benchmark::DoNotOptimize(converted);
@@ -52,7 +52,7 @@ void FromKnx(benchmark::State& state, const RowSample& sample) {
     state.SkipWithError("conversion refused");
     return;
   }
-  const std::uint64_t before = AllocationCount();
+  const std::uint64_t before = CountedAllocations::Total();
   for (auto _ : state) {
     bool converted = converter.FromKnxValue(dpt, groupValue, value);
     benchmark::DoNotOptimize(converted);
@@ -62,7 +62,7 @@ void FromKnx(benchmark::State& state, const RowSample& sample) {
 }
 
 void Construct(benchmark::State& state) {
-  const std::uint64_t before = AllocationCount();
+  const std::uint64_t before = CountedAllocations::Total();
   for (auto _ : state) {
     Nelmo::KnxValueConverter converter;
     benchmark::DoNotOptimize(converter);

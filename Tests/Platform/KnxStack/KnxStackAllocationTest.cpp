@@ -1,5 +1,5 @@
-// Counts heap allocations through the global operator new, which this test
-// program replaces, to show that fixed-size group values never touch the heap.
+// Counts heap allocations through the global operator new, which the test
+// programs replace, to show that fixed-size group values never touch the heap.
 #include <gtest/gtest.h>
 
 #include <atomic>
@@ -9,46 +9,9 @@
 #include <string>
 #include <utility>
 
+#include "CountedAllocations.h"
 #include "KnxStack.h"
 #include "KnxTestBytes.h"
-
-namespace {
-
-std::atomic<int> g_allocations{0};
-
-void* CountedAllocate(std::size_t size) {
-  g_allocations.fetch_add(1, std::memory_order_relaxed);
-  if (void* memory = std::malloc(size == 0 ? 1 : size)) {
-    return memory;
-  }
-  throw std::bad_alloc();
-}
-
-}  // namespace
-
-void* operator new(std::size_t size) {
-  return CountedAllocate(size);
-}
-
-void* operator new[](std::size_t size) {
-  return CountedAllocate(size);
-}
-
-void operator delete(void* memory) noexcept {
-  std::free(memory);
-}
-
-void operator delete[](void* memory) noexcept {
-  std::free(memory);
-}
-
-void operator delete(void* memory, std::size_t) noexcept {
-  std::free(memory);
-}
-
-void operator delete[](void* memory, std::size_t) noexcept {
-  std::free(memory);
-}
 
 namespace {
 
@@ -77,9 +40,9 @@ struct AllocationRow {
 class Allocations : public testing::TestWithParam<AllocationRow> {};
 
 TEST_P(Allocations, AsCounted) {
-  const int before = g_allocations.load();
+  const std::uint64_t before = CountedAllocations::Total();
   GetParam().action();
-  EXPECT_EQ(g_allocations.load() - before, GetParam().allocations) << GetParam().name;
+  EXPECT_EQ(static_cast<int>(CountedAllocations::Total() - before), GetParam().allocations) << GetParam().name;
 }
 
 INSTANTIATE_TEST_SUITE_P(

@@ -14,32 +14,9 @@
 
 #include <gtest/gtest.h>
 
+#include "CountedAllocations.h"
 #include "DateAndTimeTestSupport.h"
 #include "KnxConverterDateAndTime.h"
-
-namespace {
-
-std::atomic<bool> countAllocations{false};
-std::atomic<int> allocations{0};
-
-}  // namespace
-
-void* operator new(std::size_t size) {
-  if (countAllocations) {
-    ++allocations;
-  }
-  if (void* memory = std::malloc(size == 0 ? 1 : size)) {
-    return memory;
-  }
-  throw std::bad_alloc();
-}
-
-void operator delete(void* memory) noexcept {
-  std::free(memory);
-}
-void operator delete(void* memory, std::size_t) noexcept {
-  std::free(memory);
-}
 
 namespace {
 
@@ -164,19 +141,18 @@ TEST_P(KnxConverterDateAndTime, LogsNothingAndAllocatesNothingWithLoggingOff) {
   KnxStack::GroupValue groupValue;
   ULOVALUE received(row.type);
 
-  allocations = 0;
-  countAllocations = true;
+  const std::uint64_t allocationsBefore = CountedAllocations::Total();
   const bool sentAccepted = row.converter->ToKnxValue(row.dpt, accepted, groupValue);
   const bool sentRefused = row.converter->ToKnxValue(row.dpt, refused, groupValue);
   const bool receivedValid = row.converter->FromKnxValue(row.dpt, valid, received);
   const bool receivedInvalid = row.converter->FromKnxValue(row.dpt, invalid, received);
-  countAllocations = false;
+  const std::uint64_t allocations = CountedAllocations::Total() - allocationsBefore;
 
   EXPECT_TRUE(sentAccepted);
   EXPECT_FALSE(sentRefused);
   EXPECT_TRUE(receivedValid);
   EXPECT_FALSE(receivedInvalid);
-  EXPECT_EQ(allocations, 0);
+  EXPECT_EQ(allocations, 0u);
   EXPECT_EQ(capture.Lines(), std::vector<LogLine>{});
 }
 

@@ -10,28 +10,9 @@
 #include <string>
 #include <vector>
 
+#include "CountedAllocations.h"
 #include "KnxConverterFloat.h"
 #include "LogCapture.h"
-
-// Counts heap allocations, so that a test can show that a number conversion
-// allocates nothing while logging is off.
-namespace {
-std::atomic<long> g_allocations{0};
-}
-
-void* operator new(std::size_t size) {
-  ++g_allocations;
-  if (void* memory = std::malloc(size == 0 ? 1 : size)) {
-    return memory;
-  }
-  throw std::bad_alloc();
-}
-void operator delete(void* memory) noexcept {
-  std::free(memory);
-}
-void operator delete(void* memory, std::size_t) noexcept {
-  std::free(memory);
-}
 
 namespace {
 
@@ -683,23 +664,23 @@ TEST(FloatAllocation, NoneWhileLoggingIsOff) {
   ULOVALUE received = ULOVALUE::Double(0.0);
   KnxStack::GroupValue groupValue;
 
-  const long before = g_allocations.load();
+  const std::uint64_t before = CountedAllocations::Total();
   for (std::size_t i = 0; i < 5; ++i) {
     EXPECT_TRUE(converters[i]->ToKnxValue(dpts[i], beyond, groupValue));
     EXPECT_TRUE(converters[i]->FromKnxValue(dpts[i], groupValue, received));
   }
   EXPECT_TRUE(converters[3]->ToKnxValue(dpts[3], none, groupValue));
   EXPECT_TRUE(converters[4]->ToKnxValue(dpts[4], none, groupValue));
-  EXPECT_EQ(g_allocations.load() - before, 0);
+  EXPECT_EQ(CountedAllocations::Total() - before, 0u);
   EXPECT_TRUE(capture.Lines().empty());
 }
 
 TEST(FloatAllocation, CounterSeesAllocations) {
   TestSupport::LogCapture capture;
   KnxStack::GroupValue groupValue;
-  const long before = g_allocations.load();
+  const std::uint64_t before = CountedAllocations::Total();
   EXPECT_TRUE(Conv9_x()->ToKnxValue(Dpt9_x, ULOVALUE::Double(1e40), groupValue));
-  EXPECT_GT(g_allocations.load() - before, 0);
+  EXPECT_GT(CountedAllocations::Total() - before, 0u);
 }
 
 }  // namespace

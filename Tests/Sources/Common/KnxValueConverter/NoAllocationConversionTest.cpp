@@ -5,6 +5,7 @@
 #include <new>
 #include <vector>
 
+#include "CountedAllocations.h"
 #include "FloatRange.h"
 #include "KnxConverterBit.h"
 #include "KnxConverterDefault.h"
@@ -12,42 +13,18 @@
 #include "KnxValueConverter.h"
 #include "LogCapture.h"
 
-// Counts the heap allocations of this program while a test watches.
-namespace {
-std::atomic<bool> watching{false};
-std::atomic<int> allocations{0};
-}  // namespace
-
-void* operator new(std::size_t size) {
-  if (watching.load()) {
-    ++allocations;
-  }
-  if (void* memory = std::malloc(size == 0 ? 1 : size)) {
-    return memory;
-  }
-  throw std::bad_alloc();
-}
-
-void operator delete(void* memory) noexcept {
-  std::free(memory);
-}
-
-void operator delete(void* memory, std::size_t) noexcept {
-  std::free(memory);
-}
-
 namespace {
 
 using Bytes = std::vector<unsigned char>;
 
+// Counts the heap allocations made while it lives.
 class AllocationWatch {
  public:
-  AllocationWatch() {
-    allocations = 0;
-    watching = true;
-  }
-  ~AllocationWatch() { watching = false; }
-  int Count() const { return allocations.load(); }
+  AllocationWatch() : m_before(CountedAllocations::Total()) {}
+  int Count() const { return static_cast<int>(CountedAllocations::Total() - m_before); }
+
+ private:
+  std::uint64_t m_before;
 };
 
 KnxStack::GroupValue GroupOf(const Bytes& bytes, unsigned int bits) {

@@ -1,15 +1,18 @@
-#include "AllocationCounter.h"
+#include "CountedAllocations.h"
 
 #include <atomic>
 #include <cstdlib>
 #include <new>
 
+// Kept out of line in a file of their own: the compiler must not see these
+// replacements next to the new-expressions they serve.
+
 namespace {
 
-std::atomic<std::uint64_t> g_allocations{0};
+std::atomic<std::uint64_t> g_total{0};
 
-void* CountedAllocate(std::size_t size) {
-  g_allocations.fetch_add(1, std::memory_order_relaxed);
+void* Allocate(std::size_t size) {
+  g_total.fetch_add(1, std::memory_order_relaxed);
   if (void* memory = std::malloc(size == 0 ? 1 : size)) {
     return memory;
   }
@@ -18,16 +21,20 @@ void* CountedAllocate(std::size_t size) {
 
 }  // namespace
 
-std::uint64_t AllocationCount() {
-  return g_allocations.load(std::memory_order_relaxed);
+namespace CountedAllocations {
+
+std::uint64_t Total() {
+  return g_total.load(std::memory_order_relaxed);
 }
 
+}  // namespace CountedAllocations
+
 void* operator new(std::size_t size) {
-  return CountedAllocate(size);
+  return Allocate(size);
 }
 
 void* operator new[](std::size_t size) {
-  return CountedAllocate(size);
+  return Allocate(size);
 }
 
 void operator delete(void* memory) noexcept {
