@@ -17,15 +17,23 @@ namespace Nelmo::Log {
 inline constexpr std::string_view ConverterFile = "KnxConverter";
 inline constexpr std::string_view FacadeFile = "KnxValueConverter";
 
-// compose(std::ostream&) writes the text; called only when level is active.
+// Composing a message needs a string stream, whose set-up would otherwise
+// be inlined into every caller and paid for on each call; kept out of line
+// and out of the hot code.
 template <typename Compose>
-inline void Write(UloLogLevel level, std::string_view file, std::string_view function, int line, Compose&& compose) {
-  if (!UloLoggingStateIsActive(level)) {
-    return;
-  }
+[[gnu::cold, gnu::noinline]] void WriteActive(UloLogLevel level, std::string_view file, std::string_view function,
+                                              int line, Compose& compose) {
   std::ostringstream text;
   compose(text);
   UloLog(level, file, function, text.str(), line);
+}
+
+// compose(std::ostream&) writes the text; called only when level is active.
+template <typename Compose>
+inline void Write(UloLogLevel level, std::string_view file, std::string_view function, int line, Compose&& compose) {
+  if (UloLoggingStateIsActive(level)) {
+    WriteActive(level, file, function, line, compose);
+  }
 }
 
 // The DPT's short form: main "." sub, plain decimals (9.001 is 9.1).
