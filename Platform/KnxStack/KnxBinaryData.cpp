@@ -10,19 +10,8 @@ BinaryData::BinaryData(const unsigned char* data, unsigned int length) {
   }
 }
 
-BinaryData::BinaryData(const BinaryData& other) {
-  CopyFrom(other.GetData(), other.m_length);
-}
-
 BinaryData::BinaryData(BinaryData&& other) noexcept {
   *this = std::move(other);
-}
-
-BinaryData& BinaryData::operator=(const BinaryData& other) {
-  if (this != &other) {
-    CopyFrom(other.GetData(), other.m_length);
-  }
-  return *this;
 }
 
 BinaryData& BinaryData::operator=(BinaryData&& other) noexcept {
@@ -39,8 +28,8 @@ BinaryData& BinaryData::operator=(BinaryData&& other) noexcept {
 
 BinaryData::~BinaryData() = default;
 
-const unsigned char* BinaryData::GetData() const {
-  return m_heap ? m_heap.get() : m_inline;
+void BinaryData::ReleaseHeap() {
+  m_heap.reset();
 }
 
 // Allocates before releasing anything, so a failed allocation leaves the

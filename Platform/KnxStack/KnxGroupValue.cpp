@@ -2,17 +2,30 @@
 
 #include <limits>
 
+#include "KnxGroupValueBytes.h"
+
 namespace KnxStack {
+
+namespace GroupValueBytes {
+
+void ThrowWrongSize(unsigned int formatBits, unsigned int definedSize) {
+  throw GroupValueException("GroupValue: expected " + std::to_string(formatBits) + " bits, defined size is " +
+                            std::to_string(definedSize));
+}
+
+void ThrowShortPayload(unsigned int neededBytes, unsigned int length) {
+  throw GroupValueException("GroupValue: expected " + std::to_string(neededBytes) + " bytes, payload has " +
+                            std::to_string(length));
+}
+
+}  // namespace GroupValueBytes
 
 namespace {
 
-constexpr unsigned int SmallValueBits = 6;
-constexpr unsigned char SmallValueMask = 0x3F;
-constexpr unsigned int String14Bytes = 14;
+using GroupValueBytes::SmallValueBits;
+using GroupValueBytes::SmallValueMask;
 
-unsigned int ByteCount(unsigned int bits) {
-  return bits <= SmallValueBits ? 1 : (bits + 7) / 8;
-}
+constexpr unsigned int String14Bytes = 14;
 
 // Two's complement without relying on implementation-defined narrowing.
 template <typename Signed, typename Unsigned>
@@ -35,49 +48,6 @@ GroupValue::GroupValue(const BinaryData& data, unsigned int sizeInBits) : m_data
 void GroupValue::SetRawData(const BinaryData& data) {
   m_data = data;
   m_definedSize = 8 * data.GetLength();
-}
-
-const unsigned char* GroupValue::Payload(unsigned int formatBits) const {
-  if (m_definedSize != formatBits) {
-    throw GroupValueException("GroupValue: expected " + std::to_string(formatBits) + " bits, defined size is " +
-                              std::to_string(m_definedSize));
-  }
-  const unsigned int needed = ByteCount(formatBits);
-  if (m_data.GetLength() < needed) {
-    throw GroupValueException("GroupValue: expected " + std::to_string(needed) + " bytes, payload has " +
-                              std::to_string(m_data.GetLength()));
-  }
-  return m_data.GetData();
-}
-
-void GroupValue::Store(const unsigned char* bytes, unsigned int formatBits) {
-  m_data = BinaryData(bytes, ByteCount(formatBits));
-  m_definedSize = formatBits;
-}
-
-std::uint32_t GroupValue::ReadUnsigned(unsigned int formatBits) const {
-  const unsigned char* bytes = Payload(formatBits);
-  if (formatBits <= SmallValueBits) {
-    return bytes[0] & ((1u << formatBits) - 1);
-  }
-  std::uint32_t value = 0;
-  for (unsigned int i = 0; i < formatBits / 8; ++i) {
-    value = (value << 8) | bytes[i];
-  }
-  return value;
-}
-
-void GroupValue::WriteUnsigned(std::uint32_t value, unsigned int formatBits) {
-  unsigned char bytes[4] = {};
-  if (formatBits <= SmallValueBits) {
-    bytes[0] = static_cast<unsigned char>(value & SmallValueMask);
-  } else {
-    const unsigned int count = formatBits / 8;
-    for (unsigned int i = 0; i < count; ++i) {
-      bytes[i] = static_cast<unsigned char>(value >> (8 * (count - 1 - i)));
-    }
-  }
-  Store(bytes, formatBits);
 }
 
 bool GroupValue::GetAsBoolean() const {

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "KnxGroupValue.h"
+#include "KnxGroupValueBytes.h"
 
 namespace KnxStack {
 
@@ -19,10 +20,14 @@ struct Field {
   unsigned int bits;
 };
 
+[[noreturn]] void ThrowDoesNotFit(const Field& field) {
+  throw GroupValueException("GroupValue: " + std::string(field.name) + " " + std::to_string(field.value) +
+                            " does not fit " + std::to_string(field.bits) + " bits");
+}
+
 void CheckFits(const Field& field) {
   if (field.value < 0 || field.value >= (1 << field.bits)) {
-    throw GroupValueException("GroupValue: " + std::string(field.name) + " " + std::to_string(field.value) +
-                              " does not fit " + std::to_string(field.bits) + " bits");
+    ThrowDoesNotFit(field);
   }
 }
 
@@ -33,11 +38,38 @@ void CheckFits(const Field (&fields)[Count]) {
   }
 }
 
+[[noreturn]] void ThrowYearOutside(int year, int first, int last) {
+  throw GroupValueException("GroupValue: year " + std::to_string(year) + " is outside " + std::to_string(first) +
+                            " to " + std::to_string(last));
+}
+
 void CheckYear(int year, int first, int last) {
   if (year < first || year > last) {
-    throw GroupValueException("GroupValue: year " + std::to_string(year) + " is outside " + std::to_string(first) +
-                              " to " + std::to_string(last));
+    ThrowYearOutside(year, first, last);
   }
+}
+
+// The checks above name the first field that does not fit, in the order of
+// the parameters; these cheap tests spare correct values the work of naming.
+bool Fits(int value, unsigned int bits) {
+  return static_cast<unsigned int>(value) < (1u << bits);
+}
+
+bool DateFits(int day, int month, int year, int firstYear, int lastYear) {
+  return Fits(day, 5) && Fits(month, 4) && year >= firstYear && year <= lastYear;
+}
+
+bool TimeFits(int hour, int minute, int second, GroupValue::DayOfWeek dayOfWeek) {
+  return Fits(hour, 5) && Fits(minute, 6) && Fits(second, 6) && Fits(dayOfWeek, 3);
+}
+
+[[gnu::cold]] void CheckDate(int day, int month, int year, int firstYear, int lastYear) {
+  CheckFits({{"day", day, 5}, {"month", month, 4}});
+  CheckYear(year, firstYear, lastYear);
+}
+
+[[gnu::cold]] void CheckTime(int hour, int minute, int second, GroupValue::DayOfWeek dayOfWeek) {
+  CheckFits({{"hour", hour, 5}, {"minute", minute, 6}, {"second", second, 6}, {"day of week", dayOfWeek, 3}});
 }
 
 template <typename T>
@@ -76,8 +108,9 @@ void GroupValue::GetAsDate(int* day, int* month, int* year) const {
 }
 
 void GroupValue::SetAsDate(int day, int month, int year) {
-  CheckFits({{"day", day, 5}, {"month", month, 4}});
-  CheckYear(year, 1990, 2089);
+  if (!DateFits(day, month, year, 1990, 2089)) {
+    CheckDate(day, month, year, 1990, 2089);
+  }
   const unsigned char bytes[] = {static_cast<unsigned char>(day), static_cast<unsigned char>(month),
                                  static_cast<unsigned char>(year % 100)};
   Store(bytes, DateBits);
@@ -91,7 +124,9 @@ void GroupValue::GetAsTimeOfDay(int* hour, int* minute, int* second, DayOfWeek* 
 }
 
 void GroupValue::SetAsTimeOfDay(int hour, int minute, int second, DayOfWeek dayOfWeek) {
-  CheckFits({{"hour", hour, 5}, {"minute", minute, 6}, {"second", second, 6}, {"day of week", dayOfWeek, 3}});
+  if (!TimeFits(hour, minute, second, dayOfWeek)) {
+    CheckTime(hour, minute, second, dayOfWeek);
+  }
   const unsigned char bytes[] = {DayAndHour(hour, dayOfWeek), static_cast<unsigned char>(minute),
                                  static_cast<unsigned char>(second)};
   Store(bytes, TimeOfDayBits);
@@ -122,9 +157,16 @@ void GroupValue::GetAsDateTime(int* day, int* month, int* year, int* hour, int* 
 void GroupValue::SetAsDateTime(int day, int month, int year, int hour, int minute, int second, DayOfWeek dayOfWeek,
                                bool fault, bool workingDay, bool noWorkingDay, bool noYear, bool noDate,
                                bool noDayOfWeek, bool noTime, bool summerTime, bool clockQuality) {
-  CheckFits({{"day", day, 5}, {"month", month, 4}});
-  CheckYear(year, 1900, 2155);
-  CheckFits({{"hour", hour, 5}, {"minute", minute, 6}, {"second", second, 6}, {"day of week", dayOfWeek, 3}});
+  // The flags first: most of them arrive on the stack, and this way each is
+  // read once instead of being saved and reloaded around the checks.
+  const auto flags =
+      static_cast<unsigned char>(Flag(fault, 7) | Flag(workingDay, 6) | Flag(noWorkingDay, 5) | Flag(noYear, 4) |
+                                 Flag(noDate, 3) | Flag(noDayOfWeek, 2) | Flag(noTime, 1) | Flag(summerTime, 0));
+  const unsigned char quality = Flag(clockQuality, 7);
+  if (!DateFits(day, month, year, 1900, 2155) || !TimeFits(hour, minute, second, dayOfWeek)) {
+    CheckDate(day, month, year, 1900, 2155);
+    CheckTime(hour, minute, second, dayOfWeek);
+  }
   const unsigned char bytes[] = {
       static_cast<unsigned char>(year - 1900),
       static_cast<unsigned char>(month),
@@ -132,9 +174,8 @@ void GroupValue::SetAsDateTime(int day, int month, int year, int hour, int minut
       DayAndHour(hour, dayOfWeek),
       static_cast<unsigned char>(minute),
       static_cast<unsigned char>(second),
-      static_cast<unsigned char>(Flag(fault, 7) | Flag(workingDay, 6) | Flag(noWorkingDay, 5) | Flag(noYear, 4) |
-                                 Flag(noDate, 3) | Flag(noDayOfWeek, 2) | Flag(noTime, 1) | Flag(summerTime, 0)),
-      Flag(clockQuality, 7),
+      flags,
+      quality,
   };
   Store(bytes, DateTimeBits);
 }

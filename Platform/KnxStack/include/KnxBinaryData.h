@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstring>
 #include <memory>
 #include <string>
 
@@ -20,16 +21,34 @@ class BinaryData {
   // whatever the length: callers pass buffers straight from the bus, and an
   // absent buffer is no reason to bring the process down.
   BinaryData(const unsigned char* data, unsigned int length);
-  BinaryData(const BinaryData& other);
+  // Inline payloads are copied whole, without a call or a length-driven copy.
+  BinaryData(const BinaryData& other) : m_length(other.m_length) {
+    if (other.m_heap) {
+      CopyFrom(other.m_heap.get(), other.m_length);
+    } else {
+      std::memcpy(m_inline, other.m_inline, InlineCapacity);
+    }
+  }
   // The moved-from buffer is left empty.
   BinaryData(BinaryData&& other) noexcept;
-  BinaryData& operator=(const BinaryData& other);
+  BinaryData& operator=(const BinaryData& other) {
+    if (other.m_heap) {
+      if (this != &other) {
+        CopyFrom(other.m_heap.get(), other.m_length);
+      }
+    } else {
+      m_heap.reset();
+      std::memmove(m_inline, other.m_inline, InlineCapacity);
+      m_length = other.m_length;
+    }
+    return *this;
+  }
   BinaryData& operator=(BinaryData&& other) noexcept;
   ~BinaryData();
 
   unsigned int GetLength() const { return m_length; }
   // Never null, also when the buffer is empty.
-  const unsigned char* GetData() const;
+  const unsigned char* GetData() const { return m_heap ? m_heap.get() : m_inline; }
   bool IsEmpty() const { return m_length == 0; }
   // An index at or beyond GetLength() reads 0 instead of past the end.
   unsigned char operator[](unsigned int index) const { return index < m_length ? GetData()[index] : 0; }
@@ -46,7 +65,21 @@ class BinaryData {
 
   unsigned char* MutableData() { return m_heap ? m_heap.get() : m_inline; }
   void CopyFrom(const unsigned char* data, unsigned int length);
+  // Room for length bytes, at most InlineCapacity, for the caller to fill;
+  // the previous contents are dropped.
+  unsigned char* ResetInline(unsigned int length) {
+    if (m_heap) {
+      ReleaseHeap();
+    }
+    m_length = length;
+    return m_inline;
+  }
+  // Out of line: fixed-size payloads never get here, and a call to the
+  // deallocator in their path would cost them a stack frame.
+  void ReleaseHeap();
 
+  // Payloads of up to InlineCapacity bytes live in m_inline and m_heap is
+  // null; longer ones live in m_heap.
   unsigned int m_length = 0;
   unsigned char m_inline[InlineCapacity] = {};
   std::unique_ptr<unsigned char[]> m_heap;

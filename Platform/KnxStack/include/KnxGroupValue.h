@@ -93,13 +93,15 @@ class GroupValue {
                      bool summerTime, bool clockQuality);
 
  private:
+  // Defined in the library's own sources (KnxGroupValueBytes.h), inline so
+  // that each accessor becomes straight-line code for its format.
   // The payload after checking that it holds a value of the given format.
-  const unsigned char* Payload(unsigned int formatBits) const;
+  inline const unsigned char* Payload(unsigned int formatBits) const;
   // Replaces the payload with the bytes of a value of the given format.
-  void Store(const unsigned char* bytes, unsigned int formatBits);
+  inline void Store(const unsigned char* bytes, unsigned int formatBits);
   // Unsigned values of up to 32 bits, most significant byte first.
-  std::uint32_t ReadUnsigned(unsigned int formatBits) const;
-  void WriteUnsigned(std::uint32_t value, unsigned int formatBits);
+  inline std::uint32_t ReadUnsigned(unsigned int formatBits) const;
+  inline void WriteUnsigned(std::uint32_t value, unsigned int formatBits);
 
   BinaryData m_data;
   unsigned int m_definedSize = 0;
