@@ -28,10 +28,12 @@ bool Fail(bool& result, std::string_view function, int line, Compose&& compose) 
   return false;
 }
 
+bool AcceptsUnconverted(UloValueType first, UloValueType second);
+
 // The row of dpt; null, reported, when the map answers with the empty entry.
 const DptValueEntry* FindRow(const KnxValueConverter& facade, const KNXDPT& dpt, bool& result,
                              std::string_view function) {
-  const DptValueEntry& entry = facade.GetEntry(dpt);
+  const DptValueEntry& entry = facade.GetDptValueMap().GetEntry(dpt);
   if (entry.valueType != IVT_ANY) {
     return &entry;
   }
@@ -63,22 +65,35 @@ bool CompleteDptToSend(const KnxValueConverter& facade, KNXDPT& dpt, const ULOVA
   });
 }
 
-// The value passes as it is where the row accepts its type, else it is
-// converted into the row's type.
-bool PrepareValue(const KnxValueConverter& facade, const DptValueEntry& entry, const KNXDPT& dpt, const ULOVALUE& value,
-                  ULOVALUE& working, bool& result) {
-  if (value.GetType() == IVT_NONE || facade.AreValueTypesCompatible(value.GetType(), entry.valueType)) {
-    working = value;
-    return true;
+// The row's converter writes the group value from working, the value after
+// any type conversion. Inline: the common path should not pay for a call.
+inline bool Encode(const DptValueEntry& entry, const KNXDPT& dpt, const ULOVALUE& working,
+                   KnxStack::GroupValue& groupValue, bool& result) {
+  KnxConverter* converter = ConverterOf(entry, dpt, result, ToKnxFunction);
+  if (converter == nullptr) {
+    return false;
   }
-  working.SetType(entry.valueType);
-  if (working.Assign(value)) {
+  if (converter->ToKnxValue(dpt, working, groupValue)) {
     return true;
   }
   return Fail(result, ToKnxFunction, __LINE__, [&](std::ostream& out) {
-    out << "Invalid value type found for DPT = " << Log::Dpt{dpt}
-        << " val.ivt=" << static_cast<std::int32_t>(value.GetType());
+    out << "Convert to KNX value failed for DPT = " << Log::Dpt{dpt} << " val = " << working.ToString();
   });
+}
+
+// A value that the row does not take as it is goes as a copy converted into
+// the row's type.
+bool EncodeConverted(const DptValueEntry& entry, const KNXDPT& dpt, const ULOVALUE& value,
+                     KnxStack::GroupValue& groupValue, bool& result) {
+  ULOVALUE working;
+  working.SetType(entry.valueType);
+  if (!working.Assign(value)) {
+    return Fail(result, ToKnxFunction, __LINE__, [&](std::ostream& out) {
+      out << "Invalid value type found for DPT = " << Log::Dpt{dpt}
+          << " val.ivt=" << static_cast<std::int32_t>(value.GetType());
+    });
+  }
+  return Encode(entry, dpt, working, groupValue, result);
 }
 
 bool Send(const KnxValueConverter& facade, KNXDPT& dpt, const ULOVALUE& value, KnxStack::GroupValue& groupValue,
@@ -90,20 +105,11 @@ bool Send(const KnxValueConverter& facade, KNXDPT& dpt, const ULOVALUE& value, K
   if (entry == nullptr) {
     return false;
   }
-  ULOVALUE working;
-  if (!PrepareValue(facade, *entry, dpt, value, working, result)) {
-    return false;
+  if (value.GetType() == IVT_NONE || AcceptsUnconverted(value.GetType(), entry->valueType)) {
+    // Converters only read the value, so a copy of it would change nothing.
+    return Encode(*entry, dpt, value, groupValue, result);
   }
-  KnxConverter* converter = ConverterOf(*entry, dpt, result, ToKnxFunction);
-  if (converter == nullptr) {
-    return false;
-  }
-  if (converter->ToKnxValue(dpt, working, groupValue)) {
-    return true;
-  }
-  return Fail(result, ToKnxFunction, __LINE__, [&](std::ostream& out) {
-    out << "Convert to KNX value failed for DPT = " << Log::Dpt{dpt} << " val = " << working.ToString();
-  });
+  return EncodeConverted(*entry, dpt, value, groupValue, result);
 }
 
 // A size that the DPT's bit size field cannot hold has no default either.
@@ -133,30 +139,32 @@ bool CompleteDptToReceive(const KnxValueConverter& facade, KNXDPT& dpt, const Kn
   });
 }
 
-// The group value that the converter reads; null, reported, when the received
-// size does not suit the DPT. Values sent inside the control field arrive
-// with 6 bits and are handed on re-sized to the DPT's format.
-const KnxStack::GroupValue* SizedGroupValue(const KNXDPT& dpt, const KnxStack::GroupValue& received,
-                                            KnxStack::GroupValue& local, bool& result) {
-  const std::uint32_t expected = static_cast<std::uint32_t>(KnxDptFormat::GetBitSize(dpt));
-  const std::uint32_t defined = received.GetDefinedSize();
-  bool mismatch = false;
+// Inline for the same reason as Encode.
+inline bool Decode(const DptValueEntry& entry, const KNXDPT& dpt, const KnxStack::GroupValue& chosen, ULOVALUE& value,
+                   bool& result) {
+  KnxConverter* converter = ConverterOf(entry, dpt, result, FromKnxFunction);
+  if (converter == nullptr) {
+    return false;
+  }
+  if (converter->FromKnxValue(dpt, chosen, value)) {
+    return true;
+  }
+  return Fail(result, FromKnxFunction, __LINE__, [&](std::ostream& out) {
+    out << "Convert from KNX value failed for DPT = " << Log::Dpt{dpt}
+        << " GroupValue = " << chosen.GetRawData().ToString();
+  });
+}
+
+// Values sent inside the control field arrive with 6 bits and are handed on
+// re-sized to the DPT's format, through a group value of the call's own; a
+// variable-length DPT gets that group value as it was constructed.
+bool DecodeResized(const DptValueEntry& entry, const KNXDPT& dpt, const KnxStack::GroupValue& received,
+                   std::uint32_t expected, ULOVALUE& value, bool& result) {
+  KnxStack::GroupValue local;
   if (expected <= ControlFieldBits) {
-    mismatch = defined > ControlFieldBits;
-    if (!mismatch) {
-      local = KnxStack::GroupValue(received.GetRawData(), expected);
-    }
-  } else {
-    mismatch = expected != defined && expected != VariableLength;
+    local = KnxStack::GroupValue(received.GetRawData(), expected);
   }
-  if (mismatch) {
-    Fail(result, FromKnxFunction, __LINE__, [&](std::ostream& out) {
-      out << "Failed to convert a GroupValue for DPT " << Log::Dpt{dpt}
-          << " because of unexpected bit size: " << defined << ", expected: " << expected;
-    });
-    return nullptr;
-  }
-  return defined == ControlFieldBits ? &local : &received;
+  return Decode(entry, dpt, local, value, result);
 }
 
 bool Receive(const KnxValueConverter& facade, KNXDPT& dpt, const KnxStack::GroupValue& groupValue, ULOVALUE& value,
@@ -169,22 +177,22 @@ bool Receive(const KnxValueConverter& facade, KNXDPT& dpt, const KnxStack::Group
     return false;
   }
   value.SetType(entry->valueType);
-  KnxStack::GroupValue local;
-  const KnxStack::GroupValue* chosen = SizedGroupValue(dpt, groupValue, local, result);
-  if (chosen == nullptr) {
-    return false;
+  const std::uint32_t expected = static_cast<std::uint32_t>(KnxDptFormat::GetBitSize(dpt));
+  const std::uint32_t defined = groupValue.GetDefinedSize();
+  const bool mismatch =
+      expected <= ControlFieldBits ? defined > ControlFieldBits : expected != defined && expected != VariableLength;
+  if (mismatch) {
+    return Fail(result, FromKnxFunction, __LINE__, [&](std::ostream& out) {
+      out << "Failed to convert a GroupValue for DPT " << Log::Dpt{dpt}
+          << " because of unexpected bit size: " << defined << ", expected: " << expected;
+    });
   }
-  KnxConverter* converter = ConverterOf(*entry, dpt, result, FromKnxFunction);
-  if (converter == nullptr) {
-    return false;
+  // The group value handed on depends on the received size alone; only the
+  // control-field size ever reads a re-sized copy.
+  if (defined == ControlFieldBits) {
+    return DecodeResized(*entry, dpt, groupValue, expected, value, result);
   }
-  if (converter->FromKnxValue(dpt, *chosen, value)) {
-    return true;
-  }
-  return Fail(result, FromKnxFunction, __LINE__, [&](std::ostream& out) {
-    out << "Convert from KNX value failed for DPT = " << Log::Dpt{dpt}
-        << " GroupValue = " << chosen->GetRawData().ToString();
-  });
+  return Decode(*entry, dpt, groupValue, value, result);
 }
 
 // A list of value types, for the compatibility table.
@@ -250,6 +258,12 @@ TypeList AcceptedRowTypes(UloValueType first) {
     default:
       return TypeList();
   }
+}
+
+// The conversion path asks this directly rather than through the exported
+// member, which the library could only reach through its symbol table.
+bool AcceptsUnconverted(UloValueType first, UloValueType second) {
+  return first == second || AcceptedRowTypes(first).Contains(second);
 }
 
 constexpr int AnyBitSize = -1;
@@ -390,7 +404,7 @@ bool KnxValueConverter::FromKnxValue(const KNXDPT& dpt, const KnxStack::GroupVal
 }
 
 bool KnxValueConverter::AreValueTypesCompatible(UloValueType first, UloValueType second) const {
-  return first == second || AcceptedRowTypes(first).Contains(second);
+  return AcceptsUnconverted(first, second);
 }
 
 bool KnxValueConverter::GetDefaultMappingDptForSize(UloValueType valueType, KNXDPT& dpt) const {
