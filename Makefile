@@ -11,7 +11,7 @@ PACKAGES := g++ cmake make googletest libgtest-dev libgmock-dev libhowardhinnant
 
 .PHONY: all deps demo test test-host test-armhf test-asan test-fuzz test-valgrind \
         build-host build-armhf build-asan build-fuzz fuzz tsan bench instructions clean \
-        test-consumer check-includes format-check
+        test-consumer check-includes format-check package test-packages
 
 all: build-host
 
@@ -89,6 +89,28 @@ format-check:
 	scripts/format-check.sh
 
 test: test-host test-armhf test-asan test-fuzz test-valgrind test-consumer check-includes format-check
+
+# Debian packages for amd64 and armhf (cross build) in build/packages.
+build/package-amd64/CMakeCache.txt:
+	cmake -S . -B build/package-amd64 -DCMAKE_BUILD_TYPE=Release -DCMAKE_INSTALL_PREFIX=/usr \
+	  -DKNXCONV_BUILD_TESTS=OFF $(CMAKE_FLAGS)
+
+build/package-armhf/CMakeCache.txt:
+	cmake -S . -B build/package-armhf -DCMAKE_BUILD_TYPE=Release -DCMAKE_INSTALL_PREFIX=/usr \
+	  -DCMAKE_INSTALL_LIBDIR=lib/arm-linux-gnueabihf -DKNXCONV_BUILD_TESTS=OFF \
+	  -DCMAKE_TOOLCHAIN_FILE=$(CURDIR)/cmake/toolchain-armhf.cmake $(CMAKE_FLAGS)
+
+package: deps build/package-amd64/CMakeCache.txt build/package-armhf/CMakeCache.txt
+	cmake --build build/package-amd64 -j$(JOBS)
+	cmake --build build/package-armhf -j$(JOBS)
+	rm -rf build/packages
+	cd build/package-amd64 && cpack -B $(CURDIR)/build/packages
+	cd build/package-armhf && cpack -B $(CURDIR)/build/packages
+	scripts/list-packages.sh build/packages
+
+# Installs the amd64 packages, tests against /usr, removes them (root).
+test-packages: package
+	scripts/test-packages.sh build/packages
 
 fuzz: build-fuzz
 	Fuzz/run-fuzzers.sh build/fuzz $(FUZZ_SECONDS)

@@ -40,12 +40,23 @@ if(CMAKE_CROSSCOMPILING)
     set(CPACK_DEBIAN_PACKAGE_ARCHITECTURE armhf)
   endif()
   set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS OFF)
-  set(_system_depends "libc6 (>= 2.34)" "libgcc-s1 (>= 3.5)" "libstdc++6 (>= 12)")
+  set(_system_depends "libc6 (>= 2.34)" "libgcc-s1 (>= 3.5)" "libstdc++6 (>= 11)")
 else()
   set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
-  set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS
-      ${PROJECT_BINARY_DIR}/Platform/UloPlatform ${PROJECT_BINARY_DIR}/Platform/KnxStack
-      ${PROJECT_BINARY_DIR}/Sources/Common)
+  # Where dpkg-shlibdeps finds the libraries of this build (and the real
+  # platform's), which no installed package provides.
+  set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${PROJECT_BINARY_DIR}/Sources/Common)
+  if(KNXCONV_EXTERNAL_PLATFORM)
+    foreach(_library IN LISTS KNXCONV_PLATFORM_LIBRARIES)
+      if(IS_ABSOLUTE "${_library}")
+        get_filename_component(_directory "${_library}" DIRECTORY)
+        list(APPEND CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${_directory})
+      endif()
+    endforeach()
+  else()
+    list(APPEND CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS
+         ${PROJECT_BINARY_DIR}/Platform/UloPlatform ${PROJECT_BINARY_DIR}/Platform/KnxStack)
+  endif()
   set(_system_depends "")
 endif()
 
