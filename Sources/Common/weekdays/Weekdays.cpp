@@ -15,6 +15,21 @@ constexpr std::array<Weekdays::Days, 7> DayTable = {Weekdays::Monday,   Weekdays
 
 constexpr char DayLetters[] = "MTWTFSS";
 
+// Indexed by a value up to Sunday's bit: 1 for Monday to 7 for Sunday, 0
+// for anything that is not a single day. A table rather than a search: the
+// date and time converters ask for it on every conversion.
+constexpr std::array<unsigned char, Weekdays::Sunday + 1> DayNumbers = [] {
+  std::array<unsigned char, Weekdays::Sunday + 1> numbers{};
+  for (std::size_t index = 0; index < DayTable.size(); ++index) {
+    numbers[DayTable[index]] = static_cast<unsigned char>(index + 1);
+  }
+  return numbers;
+}();
+
+unsigned int Monday1ToSunday7(unsigned int day) {
+  return day < DayNumbers.size() ? DayNumbers[day] : 0;
+}
+
 }  // namespace
 
 Weekdays::Weekdays(Days days) : bits(days) {}
@@ -135,12 +150,11 @@ Weekdays Weekdays::GetWeekdayFromString(std::string_view text) {
 }
 
 unsigned int Weekdays::GetMonday1ToSunday7FromWeekday(Days day) {
-  return GetMonday1ToSunday7FromWeekday(static_cast<unsigned int>(day));
+  return Monday1ToSunday7(day);
 }
 
 unsigned int Weekdays::GetMonday1ToSunday7FromWeekday(unsigned int day) {
-  const auto* found = std::find(DayTable.begin(), DayTable.end(), day);
-  return found != DayTable.end() ? static_cast<unsigned int>(found - DayTable.begin()) + 1 : 0;
+  return Monday1ToSunday7(day);
 }
 
 Weekdays::Days Weekdays::GetWeekdayFromMonday1ToSunday7(unsigned char number) {
