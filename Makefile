@@ -11,7 +11,7 @@ PACKAGES := g++ cmake make googletest libgtest-dev libgmock-dev libhowardhinnant
 
 .PHONY: all deps demo test test-host test-armhf test-asan test-fuzz test-valgrind \
         build-host build-armhf build-asan build-fuzz fuzz tsan bench instructions clean \
-        test-consumer check-includes format-check package test-packages
+        test-consumer check-includes format-check package test-packages test-external
 
 all: build-host
 
@@ -88,7 +88,12 @@ check-includes:
 format-check:
 	scripts/format-check.sh
 
-test: test-host test-armhf test-asan test-fuzz test-valgrind test-consumer check-includes format-check
+# KNXCONV_PLATFORM=external, with build/host's substitutes posing as the real
+# platform libraries.
+test-external: build-host
+	scripts/test-external-platform.sh build/host build/external
+
+test: test-host test-armhf test-asan test-fuzz test-valgrind test-consumer check-includes format-check test-external
 
 # Debian packages for amd64 and armhf (cross build) in build/packages.
 build/package-amd64/CMakeCache.txt:
