@@ -6,23 +6,25 @@
 #include <string>
 #include <vector>
 
+#include "ConverterLines.h"
 #include "FloatRange.h"
 #include "LogCapture.h"
+#include "RangeRows.h"
 
 namespace {
 
 using Nelmo::FloatIntegerRange;
+using TestSupport::ExpectTexts;
 using TestSupport::LogCapture;
 using TestSupport::LogLine;
+using TestSupport::ScaleFactorError;
+using TestSupport::TextRow;
+using Bounds = TestSupport::RangeBounds<FloatIntegerRange>;
 
 constexpr std::int32_t Min32 = std::numeric_limits<std::int32_t>::min();
 constexpr std::int32_t Max32 = std::numeric_limits<std::int32_t>::max();
 constexpr double NaN = std::numeric_limits<double>::quiet_NaN();
 constexpr double Infinity = std::numeric_limits<double>::infinity();
-
-LogLine Error(const std::string& text) {
-  return LogLine{3, "KnxConverter", "CalculateScaleFactor", text};
-}
 
 TEST(FloatIntegerRange, DefaultIsTheTwoOctetFloatOntoThe32BitRange) {
   LogCapture capture;
@@ -69,39 +71,33 @@ TEST(FloatIntegerRange, ScaleFactor) {
 
 TEST(FloatIntegerRange, CalculateScaleFactorMessages) {
   struct Row {
-    double internalMinimum;
-    double internalMaximum;
-    std::int32_t externalMinimum;
-    std::int32_t externalMaximum;
+    Bounds bounds;
     std::vector<LogLine> lines;
   };
   const Row rows[] = {
-      {5.5, 5.5, 0, 10, {Error("Failed to calculate the scale factor because of invalid double range [5.5, 5.5].")}},
-      {-671088.64,
-       -671088.64,
-       0,
-       10,
-       {Error("Failed to calculate the scale factor because of invalid double range [-671089, -671089].")}},
-      {0.0, 1.0, 7, 7, {Error("Failed to calculate the scale factor because of invalid integer range [7, 7].")}},
-      {0.0,
-       1.0,
-       Min32,
-       Min32,
-       {Error("Failed to calculate the scale factor because of invalid integer range [-2147483648, -2147483648].")}},
+      {{5.5, 5.5, 0, 10},
+       {ScaleFactorError("Failed to calculate the scale factor because of invalid double range [5.5, 5.5].")}},
+      {{-671088.64, -671088.64, 0, 10},
+       {ScaleFactorError("Failed to calculate the scale factor because of invalid double range [-671089, -671089].")}},
+      {{0.0, 1.0, 7, 7},
+       {ScaleFactorError("Failed to calculate the scale factor because of invalid integer range [7, 7].")}},
+      {{0.0, 1.0, Min32, Min32},
+       {ScaleFactorError(
+           "Failed to calculate the scale factor because of invalid integer range [-2147483648, -2147483648].")}},
       // The internal span overflows to infinity, so the factor is 0.
-      {-1e308,
-       1e308,
-       0,
-       1,
-       {Error("Failed to calculate the scale factor because of invalid double range [-1e+308, 1e+308] or because "
-              "invalid integer range [0, 1].")}},
+      {{-1e308, 1e308, 0, 1},
+       {ScaleFactorError(
+           "Failed to calculate the scale factor because of invalid double range [-1e+308, 1e+308] or because "
+           "invalid integer range [0, 1].")}},
       // The double range is checked first and ends the calculation.
-      {2.0, 2.0, 3, 3, {Error("Failed to calculate the scale factor because of invalid double range [2, 2].")}},
-      {0.0, 100.0, 0, 255, {}},
+      {{2.0, 2.0, 3, 3},
+       {ScaleFactorError("Failed to calculate the scale factor because of invalid double range [2, 2].")}},
+      {{0.0, 100.0, 0, 255}, {}},
   };
   for (const Row& row : rows) {
     LogCapture capture;
-    const FloatIntegerRange range(row.internalMinimum, row.internalMaximum, row.externalMinimum, row.externalMaximum);
+    const FloatIntegerRange range(row.bounds.internalMinimum, row.bounds.internalMaximum, row.bounds.externalMinimum,
+                                  row.bounds.externalMaximum);
     SCOPED_TRACE(range.ToString());
     EXPECT_EQ(capture.Lines(), row.lines);
   }
@@ -245,19 +241,13 @@ TEST(FloatIntegerRange, ConversionsLogNothing) {
 }
 
 TEST(FloatIntegerRange, ToString) {
-  struct Row {
-    FloatIntegerRange range;
-    std::string text;
-  };
-  const Row rows[] = {
+  const TextRow<FloatIntegerRange> rows[] = {
       {{}, "FloatIntegerRange(-671089, 670761, -2147483648, 2147483647)"},  // 6 significant digits
       {{0.0, 100.0, 0, 255}, "FloatIntegerRange(0, 100, 0, 255)"},
       {{-327.68, 327.67, -32768, 32767}, "FloatIntegerRange(-327.68, 327.67, -32768, 32767)"},
       {{0.125, 1234567.0, 0, 1}, "FloatIntegerRange(0.125, 1.23457e+06, 0, 1)"},
   };
-  for (const Row& row : rows) {
-    EXPECT_EQ(row.range.ToString(), row.text);
-  }
+  ExpectTexts(rows);
 }
 
 }  // namespace

@@ -5,43 +5,33 @@
 #include <string>
 #include <vector>
 
+#include "ConverterLines.h"
 #include "FloatRange.h"
 #include "LogCapture.h"
+#include "RangeRows.h"
 
 namespace {
 
 using Nelmo::FloatRange;
+using TestSupport::ExpectFactors;
+using TestSupport::ExpectFits;
+using TestSupport::ExpectMessages;
+using TestSupport::ExpectTexts;
+using TestSupport::FactorRow;
+using TestSupport::FilledRange;
+using TestSupport::FitRow;
 using TestSupport::LogCapture;
-using TestSupport::LogLine;
+using TestSupport::MessageRow;
+using TestSupport::ScaleFactorError;
+using TestSupport::TextRow;
 
 constexpr double NaN = std::numeric_limits<double>::quiet_NaN();
 constexpr double Infinity = std::numeric_limits<double>::infinity();
 constexpr double FloatMax = 3.4028234663852886e+38;
 
-struct Bounds {
-  double internalMinimum;
-  double internalMaximum;
-  double externalMinimum;
-  double externalMaximum;
-};
-
-// Filled the way its owner fills it: bounds, factor 1.0, one calculation.
-FloatRange Make(const Bounds& bounds) {
-  FloatRange range;
-  range.internalMinimum = bounds.internalMinimum;
-  range.internalMaximum = bounds.internalMaximum;
-  range.externalMinimum = bounds.externalMinimum;
-  range.externalMaximum = bounds.externalMaximum;
-  range.scaleFactor = 1.0;
-  range.CalculateScaleFactor();
-  return range;
-}
+using Bounds = TestSupport::RangeBounds<FloatRange>;
 
 const Bounds TwoOctetFloat{-671088.64, 670760.96, -671088.64, 670760.96};
-
-LogLine Error(const std::string& text) {
-  return LogLine{3, "KnxConverter", "CalculateScaleFactor", text};
-}
 
 TEST(FloatRange, FieldsInOrder) {
   const FloatRange range{-1.5, 2.5, -3.5, 4.5, 0.5};
@@ -53,11 +43,7 @@ TEST(FloatRange, FieldsInOrder) {
 }
 
 TEST(FloatRange, ScaleFactorIsNeverNegative) {
-  struct Row {
-    Bounds bounds;
-    double factor;
-  };
-  const Row rows[] = {
+  const FactorRow<FloatRange> rows[] = {
       {TwoOctetFloat, 1.0},
       {{-FloatMax, FloatMax, -FloatMax, FloatMax}, 1.0},
       {{0.0, 100.0, 0.0, 255.0}, 2.55},
@@ -68,11 +54,7 @@ TEST(FloatRange, ScaleFactorIsNeverNegative) {
       {{0.0, 1.0, 3.5, 3.5}, 1.0},       // invalid external range: stays 1.0
       {{0.0, 1e300, 0.0, 1e-300}, 1.0},  // the quotient underflows to 0: reset to 1.0
   };
-  for (const Row& row : rows) {
-    const FloatRange range = Make(row.bounds);
-    SCOPED_TRACE(range.ToString());
-    EXPECT_EQ(range.scaleFactor, row.factor);
-  }
+  ExpectFactors(rows);
 }
 
 TEST(FloatRange, FailedCalculationLeavesTheFactorAsItIs) {
@@ -82,37 +64,32 @@ TEST(FloatRange, FailedCalculationLeavesTheFactorAsItIs) {
 }
 
 TEST(FloatRange, CalculateScaleFactorMessages) {
-  struct Row {
-    Bounds bounds;
-    std::vector<LogLine> lines;
-  };
-  const Row rows[] = {
-      {{5.0, 5.0, 0.0, 1.0}, {Error("Failed to calculate the scale factor because of invalid double range [5, 5].")}},
+  const MessageRow<FloatRange> rows[] = {
+      {{5.0, 5.0, 0.0, 1.0},
+       {ScaleFactorError("Failed to calculate the scale factor because of invalid double range [5, 5].")}},
       {{-671088.64, -671088.64, 0.0, 1.0},
-       {Error("Failed to calculate the scale factor because of invalid double range [-671089, -671089].")}},
+       {ScaleFactorError("Failed to calculate the scale factor because of invalid double range [-671089, -671089].")}},
       {{0.0, 1.0, 3.5, 3.5},
-       {Error("Failed to calculate the scale factor because of invalid external range [3.5, 3.5].")}},
+       {ScaleFactorError("Failed to calculate the scale factor because of invalid external range [3.5, 3.5].")}},
       {{0.0, 1.0, FloatMax, FloatMax},
-       {Error("Failed to calculate the scale factor because of invalid external range [3.40282e+38, 3.40282e+38].")}},
+       {ScaleFactorError(
+           "Failed to calculate the scale factor because of invalid external range [3.40282e+38, 3.40282e+38].")}},
       {{0.0, 1e300, 0.0, 1e-300},
-       {Error("Failed to calculate the scale factor because of invalid double range [0, 1e+300] or because invalid "
-              "external range [0, 1e-300].")}},
+       {ScaleFactorError(
+           "Failed to calculate the scale factor because of invalid double range [0, 1e+300] or because invalid "
+           "external range [0, 1e-300].")}},
       // The double range is checked first and ends the calculation.
-      {{2.0, 2.0, 3.0, 3.0}, {Error("Failed to calculate the scale factor because of invalid double range [2, 2].")}},
+      {{2.0, 2.0, 3.0, 3.0},
+       {ScaleFactorError("Failed to calculate the scale factor because of invalid double range [2, 2].")}},
       {TwoOctetFloat, {}},
       {{10.0, 0.0, 0.0, 100.0}, {}},
   };
-  for (const Row& row : rows) {
-    LogCapture capture;
-    const FloatRange range = Make(row.bounds);
-    SCOPED_TRACE(range.ToString());
-    EXPECT_EQ(capture.Lines(), row.lines);
-  }
+  ExpectMessages(rows);
 }
 
 TEST(FloatRange, NoMessageWhenErrorsAreNotLogged) {
   LogCapture capture(ULO_LOG_OFF);
-  Make({5.0, 5.0, 0.0, 1.0});
+  FilledRange<FloatRange>({5.0, 5.0, 0.0, 1.0});
   EXPECT_TRUE(capture.Lines().empty());
 }
 
@@ -141,7 +118,7 @@ TEST(FloatRange, ScaleToAndScaleFromArePureDouble) {
       {{0.0, 1.0, 0.0, 1.0}, Infinity, Infinity, Infinity},
   };
   for (const Row& row : rows) {
-    const FloatRange range = Make(row.bounds);
+    const FloatRange range = FilledRange(row.bounds);
     SCOPED_TRACE(range.ToString() + " value " + std::to_string(row.value));
     EXPECT_EQ(range.ScaleTo(row.value), row.to);
     EXPECT_EQ(range.ScaleFrom(row.value), row.from);
@@ -149,20 +126,13 @@ TEST(FloatRange, ScaleToAndScaleFromArePureDouble) {
 }
 
 TEST(FloatRange, ScaleOfNotANumberIsNotANumber) {
-  const FloatRange range = Make(TwoOctetFloat);
+  const FloatRange range = FilledRange(TwoOctetFloat);
   EXPECT_TRUE(std::isnan(range.ScaleTo(NaN)));
   EXPECT_TRUE(std::isnan(range.ScaleFrom(NaN)));
 }
 
 TEST(FloatRange, FitToRangeAndIsInRange) {
-  struct Row {
-    Bounds bounds;
-    double value;
-    bool inRange;
-    bool untouched;
-    double fitted;
-  };
-  const Row rows[] = {
+  const FitRow<FloatRange> rows[] = {
       {TwoOctetFloat, 700000.0, false, false, 670760.96},
       {TwoOctetFloat, -700000.0, false, false, -671088.64},
       {TwoOctetFloat, 670760.96, true, true, 670760.96},
@@ -173,18 +143,11 @@ TEST(FloatRange, FitToRangeAndIsInRange) {
       {{10.0, 0.0, 0.0, 100.0}, 5.0, false, false, 10.0},  // reversed: the lower bound is tested first
       {{10.0, 0.0, 0.0, 100.0}, 20.0, false, false, 0.0},
   };
-  for (const Row& row : rows) {
-    const FloatRange range = Make(row.bounds);
-    SCOPED_TRACE(range.ToString() + " value " + std::to_string(row.value));
-    EXPECT_EQ(range.IsInRange(row.value), row.inRange);
-    double value = row.value;
-    EXPECT_EQ(range.FitToRange(value), row.untouched);
-    EXPECT_EQ(value, row.fitted);
-  }
+  ExpectFits(rows);
 }
 
 TEST(FloatRange, NotANumberIsNeverInRangeAndPassesFitToRange) {
-  const FloatRange range = Make(TwoOctetFloat);
+  const FloatRange range = FilledRange(TwoOctetFloat);
   EXPECT_FALSE(range.IsInRange(NaN));
   double value = NaN;
   EXPECT_TRUE(range.FitToRange(value));
@@ -192,7 +155,7 @@ TEST(FloatRange, NotANumberIsNeverInRangeAndPassesFitToRange) {
 }
 
 TEST(FloatRange, ConversionsLogNothing) {
-  const FloatRange range = Make({5.0, 5.0, 0.0, 1.0});
+  const FloatRange range = FilledRange<FloatRange>({5.0, 5.0, 0.0, 1.0});
   LogCapture capture;
   double value = 0.0;
   EXPECT_FALSE(range.FitToRange(value));
@@ -203,20 +166,14 @@ TEST(FloatRange, ConversionsLogNothing) {
 }
 
 TEST(FloatRange, ToString) {
-  struct Row {
-    FloatRange range;
-    std::string text;
-  };
-  const Row rows[] = {
+  const TextRow<FloatRange> rows[] = {
       {{-671088.64, 670760.96, -671088.64, 670760.96, 1.0}, "FloatRange(-671089, 670761, -671089, 670761)"},
       {{-FloatMax, FloatMax, -FloatMax, FloatMax, 1.0},
        "FloatRange(-3.40282e+38, 3.40282e+38, -3.40282e+38, 3.40282e+38)"},
       {{-273.0, 670760.0, -273.0, 670760.0, 1.0}, "FloatRange(-273, 670760, -273, 670760)"},
       {{0.0, 100.0, 0.0, 255.0, 2.55}, "FloatRange(0, 100, 0, 255)"},  // the factor is not written
   };
-  for (const Row& row : rows) {
-    EXPECT_EQ(row.range.ToString(), row.text);
-  }
+  ExpectTexts(rows);
 }
 
 }  // namespace

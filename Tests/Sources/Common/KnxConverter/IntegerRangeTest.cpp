@@ -5,40 +5,33 @@
 #include <string>
 #include <vector>
 
+#include "ConverterLines.h"
 #include "IntegerRange.h"
 #include "LogCapture.h"
+#include "RangeRows.h"
 
 namespace {
 
 using Nelmo::IntegerRange;
+using TestSupport::ExpectFactors;
+using TestSupport::ExpectFits;
+using TestSupport::ExpectMessages;
+using TestSupport::ExpectPlainFits;
+using TestSupport::ExpectScaledFrom;
+using TestSupport::ExpectScaledTo;
+using TestSupport::ExpectTexts;
+using TestSupport::FactorRow;
+using TestSupport::FilledRange;
+using TestSupport::FitRow;
 using TestSupport::LogCapture;
-using TestSupport::LogLine;
+using TestSupport::MessageRow;
+using TestSupport::PlainFitRow;
+using TestSupport::ScaleFactorError;
+using TestSupport::ScaleRow;
+using TestSupport::TextRow;
 
 constexpr std::int32_t Min32 = std::numeric_limits<std::int32_t>::min();
 constexpr std::int32_t Max32 = std::numeric_limits<std::int32_t>::max();
-
-struct Bounds {
-  std::int32_t internalMinimum;
-  std::int32_t internalMaximum;
-  std::int32_t externalMinimum;
-  std::int32_t externalMaximum;
-};
-
-// Filled the way its owner fills it: bounds, factor 1.0, one calculation.
-IntegerRange Make(const Bounds& bounds) {
-  IntegerRange range;
-  range.internalMinimum = bounds.internalMinimum;
-  range.internalMaximum = bounds.internalMaximum;
-  range.externalMinimum = bounds.externalMinimum;
-  range.externalMaximum = bounds.externalMaximum;
-  range.scaleFactor = 1.0;
-  range.CalculateScaleFactor();
-  return range;
-}
-
-LogLine Error(const std::string& text) {
-  return LogLine{3, "KnxConverter", "CalculateScaleFactor", text};
-}
 
 TEST(IntegerRange, FieldsInOrder) {
   const IntegerRange range{-1, 2, -3, 4, 0.5};
@@ -50,11 +43,7 @@ TEST(IntegerRange, FieldsInOrder) {
 }
 
 TEST(IntegerRange, ScaleFactor) {
-  struct Row {
-    Bounds bounds;
-    double factor;
-  };
-  const Row rows[] = {
+  const FactorRow<IntegerRange> rows[] = {
       {{-128, 127, -128, 127}, 1.0},
       {{1, 64, 0, 63}, 1.0},
       {{0, 100, 0, 255}, 2.55},             // the double nearest 2.55, slightly below it
@@ -67,10 +56,7 @@ TEST(IntegerRange, ScaleFactor) {
       {{0, 10, 7, 7}, 1.0},  // invalid external range: stays 1.0
       {{0, 0, 0, 0}, 1.0},
   };
-  for (const Row& row : rows) {
-    SCOPED_TRACE(Make(row.bounds).ToString());
-    EXPECT_EQ(Make(row.bounds).scaleFactor, row.factor);
-  }
+  ExpectFactors(rows);
 }
 
 TEST(IntegerRange, FailedCalculationLeavesTheFactorAsItIs) {
@@ -86,53 +72,44 @@ TEST(IntegerRange, FailedCalculationLeavesTheFactorAsItIs) {
 // combined message ("... or because of invalid external range [...]") cannot
 // be reached with these ranges; only the two single messages are tested.
 TEST(IntegerRange, CalculateScaleFactorMessages) {
-  struct Row {
-    Bounds bounds;
-    std::vector<LogLine> lines;
-  };
-  const Row rows[] = {
-      {{5, 5, 0, 10}, {Error("Failed to calculate the scale factor because of invalid internal range [5, 5].")}},
-      {{-7, -7, 0, 10}, {Error("Failed to calculate the scale factor because of invalid internal range [-7, -7].")}},
+  const MessageRow<IntegerRange> rows[] = {
+      {{5, 5, 0, 10},
+       {ScaleFactorError("Failed to calculate the scale factor because of invalid internal range [5, 5].")}},
+      {{-7, -7, 0, 10},
+       {ScaleFactorError("Failed to calculate the scale factor because of invalid internal range [-7, -7].")}},
       {{Min32, Min32, 0, 10},
-       {Error("Failed to calculate the scale factor because of invalid internal range [-2147483648, -2147483648].")}},
-      {{0, 10, 7, 7}, {Error("Failed to calculate the scale factor because of invalid external range [7, 7].")}},
+       {ScaleFactorError(
+           "Failed to calculate the scale factor because of invalid internal range [-2147483648, -2147483648].")}},
+      {{0, 10, 7, 7},
+       {ScaleFactorError("Failed to calculate the scale factor because of invalid external range [7, 7].")}},
       {{0, 10, Max32, Max32},
-       {Error("Failed to calculate the scale factor because of invalid external range [2147483647, 2147483647].")}},
+       {ScaleFactorError(
+           "Failed to calculate the scale factor because of invalid external range [2147483647, 2147483647].")}},
       // The internal range is checked first and ends the calculation.
-      {{0, 0, 0, 0}, {Error("Failed to calculate the scale factor because of invalid internal range [0, 0].")}},
+      {{0, 0, 0, 0},
+       {ScaleFactorError("Failed to calculate the scale factor because of invalid internal range [0, 0].")}},
       {{0, 100, 0, 255}, {}},
       {{100, 0, 0, 255}, {}},
   };
-  for (const Row& row : rows) {
-    LogCapture capture;
-    const IntegerRange range = Make(row.bounds);
-    SCOPED_TRACE(range.ToString());
-    EXPECT_EQ(capture.Lines(), row.lines);
-  }
+  ExpectMessages(rows);
 }
 
 TEST(IntegerRange, NoMessageWhenErrorsAreNotLogged) {
   LogCapture capture(ULO_LOG_OFF);
-  Make({5, 5, 0, 10});
+  FilledRange<IntegerRange>({5, 5, 0, 10});
   EXPECT_TRUE(capture.Lines().empty());
 }
 
 TEST(IntegerRange, EqualRangesMapEveryValueToItself) {
-  const IntegerRange range = Make({-128, 127, -128, 127});
+  const IntegerRange range = FilledRange<IntegerRange>({-128, 127, -128, 127});
   for (std::int32_t value = -128; value <= 127; ++value) {
     EXPECT_EQ(range.ScaleTo(value), value);
     EXPECT_EQ(range.ScaleFrom(value), value);
   }
 }
 
-struct ScaleRow {
-  Bounds bounds;
-  std::int32_t value;
-  std::int32_t result;
-};
-
 TEST(IntegerRange, ScaleTo) {
-  const ScaleRow rows[] = {
+  const ScaleRow<IntegerRange> rows[] = {
       {{1, 64, 0, 63}, 1, 0},
       {{1, 64, 0, 63}, 64, 63},
       {{0, 100, 0, 255}, 0, 0},
@@ -158,15 +135,11 @@ TEST(IntegerRange, ScaleTo) {
       {{Min32, Max32, Max32, Min32}, Min32, Max32},
       {{Min32, Max32, Max32, Min32}, Max32, Min32},
   };
-  for (const ScaleRow& row : rows) {
-    const IntegerRange range = Make(row.bounds);
-    SCOPED_TRACE(range.ToString() + " value " + std::to_string(row.value));
-    EXPECT_EQ(range.ScaleTo(row.value), row.result);
-  }
+  ExpectScaledTo(rows);
 }
 
 TEST(IntegerRange, ScaleFrom) {
-  const ScaleRow rows[] = {
+  const ScaleRow<IntegerRange> rows[] = {
       {{1, 64, 0, 63}, 0, 1},
       {{1, 64, 0, 63}, 63, 64},
       {{0, 100, 0, 255}, 128, 50},  // 50.196 rounded
@@ -183,11 +156,7 @@ TEST(IntegerRange, ScaleFrom) {
       {{5, 5, 10, 20}, 3, -2},  // invalid internal range: factor 1.0, 5 + (3 - 10)
       {{0, 100, 100, 0}, 70, 30},
   };
-  for (const ScaleRow& row : rows) {
-    const IntegerRange range = Make(row.bounds);
-    SCOPED_TRACE(range.ToString() + " value " + std::to_string(row.value));
-    EXPECT_EQ(range.ScaleFrom(row.value), row.result);
-  }
+  ExpectScaledFrom(rows);
 }
 
 // A result outside 32 bits (only reachable with inconsistent ranges or a
@@ -217,14 +186,7 @@ TEST(IntegerRange, ResultsOutside32BitsSaturate) {
 }
 
 TEST(IntegerRange, FitToRangeAndIsInRange) {
-  struct Row {
-    Bounds bounds;
-    std::int32_t value;
-    bool inRange;
-    bool untouched;
-    std::int32_t fitted;
-  };
-  const Row rows[] = {
+  const FitRow<IntegerRange> rows[] = {
       {{-128, 127, 0, 255}, -128, true, true, -128},  // a bound is inside
       {{-128, 127, 0, 255}, 127, true, true, 127},
       {{-128, 127, 0, 255}, 0, true, true, 0},
@@ -239,25 +201,13 @@ TEST(IntegerRange, FitToRangeAndIsInRange) {
       {{10, 0, 0, 1}, 20, false, false, 0},
       {{10, 0, 0, 1}, 10, false, false, 0},
   };
-  for (const Row& row : rows) {
-    const IntegerRange range = Make(row.bounds);
-    SCOPED_TRACE(range.ToString() + " value " + std::to_string(row.value));
-    EXPECT_EQ(range.IsInRange(row.value), row.inRange);
-    std::int32_t value = row.value;
-    EXPECT_EQ(range.FitToRange(value), row.untouched);
-    EXPECT_EQ(value, row.fitted);
-  }
+  ExpectFits(rows);
 }
 
 // A caller may hold the value in a plain long, a type of its own that is
 // 64 bits wide on some hosts.
 TEST(IntegerRange, FitToRangeOfAPlainLong) {
-  struct Row {
-    long value;
-    bool untouched;
-    long fitted;
-  };
-  const Row rows[] = {
+  const PlainFitRow<long> rows[] = {
       {-128, true, -128},
       {127, true, 127},
       {-129, false, -128},
@@ -265,17 +215,11 @@ TEST(IntegerRange, FitToRangeOfAPlainLong) {
       {std::numeric_limits<long>::min(), false, -128},
       {std::numeric_limits<long>::max(), false, 127},
   };
-  const IntegerRange range = Make({-128, 127, 0, 255});
-  for (const Row& row : rows) {
-    SCOPED_TRACE(row.value);
-    long value = row.value;
-    EXPECT_EQ(range.FitToRange(value), row.untouched);
-    EXPECT_EQ(value, row.fitted);
-  }
+  ExpectPlainFits(FilledRange<IntegerRange>({-128, 127, 0, 255}), rows);
 }
 
 TEST(IntegerRange, ConversionsLogNothing) {
-  const IntegerRange range = Make({5, 5, 0, 10});
+  const IntegerRange range = FilledRange<IntegerRange>({5, 5, 0, 10});
   LogCapture capture;
   std::int32_t value = 100;
   range.FitToRange(value);
@@ -286,20 +230,14 @@ TEST(IntegerRange, ConversionsLogNothing) {
 }
 
 TEST(IntegerRange, ToString) {
-  struct Row {
-    IntegerRange range;
-    std::string text;
-  };
-  const Row rows[] = {
+  const TextRow<IntegerRange> rows[] = {
       {{-128, 127, -128, 127, 1.0}, "IntegerRange(-128, 127, -128, 127)"},
       {{1, 64, 0, 63, 1.0}, "IntegerRange(1, 64, 0, 63)"},
       {{0, 100, 0, 255, 2.55}, "IntegerRange(0, 100, 0, 255)"},  // the factor is not written
       {{Min32, Max32, Min32, Max32, 1.0}, "IntegerRange(-2147483648, 2147483647, -2147483648, 2147483647)"},
       {{0, 0, 0, 0, 1.0}, "IntegerRange(0, 0, 0, 0)"},
   };
-  for (const Row& row : rows) {
-    EXPECT_EQ(row.range.ToString(), row.text);
-  }
+  ExpectTexts(rows);
 }
 
 }  // namespace

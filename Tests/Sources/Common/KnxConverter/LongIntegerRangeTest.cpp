@@ -5,42 +5,35 @@
 #include <string>
 #include <vector>
 
+#include "ConverterLines.h"
 #include "LogCapture.h"
 #include "LongIntegerRange.h"
+#include "RangeRows.h"
 
 namespace {
 
 using Nelmo::LongIntegerRange;
+using TestSupport::ExpectFactors;
+using TestSupport::ExpectFits;
+using TestSupport::ExpectMessages;
+using TestSupport::ExpectPlainFits;
+using TestSupport::ExpectScaledFrom;
+using TestSupport::ExpectScaledTo;
+using TestSupport::ExpectTexts;
+using TestSupport::FactorRow;
+using TestSupport::FilledRange;
+using TestSupport::FitRow;
 using TestSupport::LogCapture;
-using TestSupport::LogLine;
+using TestSupport::MessageRow;
+using TestSupport::PlainFitRow;
+using TestSupport::ScaleFactorError;
+using TestSupport::ScaleRow;
+using TestSupport::TextRow;
 
 constexpr std::int64_t Min64 = std::numeric_limits<std::int64_t>::min();
 constexpr std::int64_t Max64 = std::numeric_limits<std::int64_t>::max();
 constexpr std::int64_t Max24 = 16777215;
 constexpr std::int64_t MaxU32 = 4294967295;
-
-struct Bounds {
-  std::int64_t internalMinimum;
-  std::int64_t internalMaximum;
-  std::int64_t externalMinimum;
-  std::int64_t externalMaximum;
-};
-
-// Filled the way its owner fills it: bounds, factor 1.0, one calculation.
-LongIntegerRange Make(const Bounds& bounds) {
-  LongIntegerRange range;
-  range.internalMinimum = bounds.internalMinimum;
-  range.internalMaximum = bounds.internalMaximum;
-  range.externalMinimum = bounds.externalMinimum;
-  range.externalMaximum = bounds.externalMaximum;
-  range.scaleFactor = 1.0;
-  range.CalculateScaleFactor();
-  return range;
-}
-
-LogLine Error(const std::string& text) {
-  return LogLine{3, "KnxConverter", "CalculateScaleFactor", text};
-}
 
 TEST(LongIntegerRange, FieldsInOrder) {
   const LongIntegerRange range{-1, MaxU32, Min64, Max64, 0.5};
@@ -52,11 +45,7 @@ TEST(LongIntegerRange, FieldsInOrder) {
 }
 
 TEST(LongIntegerRange, ScaleFactor) {
-  struct Row {
-    Bounds bounds;
-    double factor;
-  };
-  const Row rows[] = {
+  const FactorRow<LongIntegerRange> rows[] = {
       {{0, MaxU32, 0, MaxU32}, 1.0},
       {{0, Max24, 0, Max24}, 1.0},
       {{0, 100, 0, 255}, 2.55},
@@ -66,10 +55,7 @@ TEST(LongIntegerRange, ScaleFactor) {
       {{MaxU32, MaxU32, 0, 1}, 1.0},  // invalid internal range: stays 1.0
       {{0, 1, 5, 5}, 1.0},            // invalid external range: stays 1.0
   };
-  for (const Row& row : rows) {
-    SCOPED_TRACE(Make(row.bounds).ToString());
-    EXPECT_EQ(Make(row.bounds).scaleFactor, row.factor);
-  }
+  ExpectFactors(rows);
 }
 
 TEST(LongIntegerRange, FailedCalculationLeavesTheFactorAsItIs) {
@@ -82,51 +68,42 @@ TEST(LongIntegerRange, FailedCalculationLeavesTheFactorAsItIs) {
 // number. Two non-zero integer spans always give a factor of at least
 // 2^-64, so the combined message cannot be reached with these ranges.
 TEST(LongIntegerRange, CalculateScaleFactorMessages) {
-  struct Row {
-    Bounds bounds;
-    std::vector<LogLine> lines;
-  };
-  const Row rows[] = {
+  const MessageRow<LongIntegerRange> rows[] = {
       {{MaxU32, MaxU32, 0, MaxU32},
-       {Error("Failed to calculate the scale factor because of invalid internal range [-1, -1].")}},
-      {{5, 5, 0, 1}, {Error("Failed to calculate the scale factor because of invalid internal range [5, 5].")}},
+       {ScaleFactorError("Failed to calculate the scale factor because of invalid internal range [-1, -1].")}},
+      {{5, 5, 0, 1},
+       {ScaleFactorError("Failed to calculate the scale factor because of invalid internal range [5, 5].")}},
       {{2147483648, 2147483648, 0, 1},
-       {Error("Failed to calculate the scale factor because of invalid internal range [-2147483648, -2147483648].")}},
-      {{-1, -1, 0, 1}, {Error("Failed to calculate the scale factor because of invalid internal range [-1, -1].")}},
+       {ScaleFactorError(
+           "Failed to calculate the scale factor because of invalid internal range [-2147483648, -2147483648].")}},
+      {{-1, -1, 0, 1},
+       {ScaleFactorError("Failed to calculate the scale factor because of invalid internal range [-1, -1].")}},
       {{0, 1, 4294967296, 4294967296},
-       {Error("Failed to calculate the scale factor because of invalid external range [0, 0].")}},
+       {ScaleFactorError("Failed to calculate the scale factor because of invalid external range [0, 0].")}},
       {{0, 1, 4294967297, 4294967297},
-       {Error("Failed to calculate the scale factor because of invalid external range [1, 1].")}},
-      {{0, 1, Min64, Min64}, {Error("Failed to calculate the scale factor because of invalid external range [0, 0].")}},
+       {ScaleFactorError("Failed to calculate the scale factor because of invalid external range [1, 1].")}},
+      {{0, 1, Min64, Min64},
+       {ScaleFactorError("Failed to calculate the scale factor because of invalid external range [0, 0].")}},
       {{0, 1, Max64, Max64},
-       {Error("Failed to calculate the scale factor because of invalid external range [-1, -1].")}},
-      {{0, 1, -7, -7}, {Error("Failed to calculate the scale factor because of invalid external range [-7, -7].")}},
-      {{3, 3, 4, 4}, {Error("Failed to calculate the scale factor because of invalid internal range [3, 3].")}},
+       {ScaleFactorError("Failed to calculate the scale factor because of invalid external range [-1, -1].")}},
+      {{0, 1, -7, -7},
+       {ScaleFactorError("Failed to calculate the scale factor because of invalid external range [-7, -7].")}},
+      {{3, 3, 4, 4},
+       {ScaleFactorError("Failed to calculate the scale factor because of invalid internal range [3, 3].")}},
       {{0, MaxU32, 0, MaxU32}, {}},
       {{Min64, Max64, Max64, Min64}, {}},
   };
-  for (const Row& row : rows) {
-    LogCapture capture;
-    const LongIntegerRange range = Make(row.bounds);
-    SCOPED_TRACE(range.ToString());
-    EXPECT_EQ(capture.Lines(), row.lines);
-  }
+  ExpectMessages(rows);
 }
 
 TEST(LongIntegerRange, NoMessageWhenErrorsAreNotLogged) {
   LogCapture capture(ULO_LOG_OFF);
-  Make({MaxU32, MaxU32, 0, 1});
+  FilledRange<LongIntegerRange>({MaxU32, MaxU32, 0, 1});
   EXPECT_TRUE(capture.Lines().empty());
 }
 
-struct ScaleRow {
-  Bounds bounds;
-  std::int64_t value;
-  std::int64_t result;
-};
-
 TEST(LongIntegerRange, ScaleTo) {
-  const ScaleRow rows[] = {
+  const ScaleRow<LongIntegerRange> rows[] = {
       {{0, MaxU32, 0, MaxU32}, MaxU32, MaxU32},
       {{0, MaxU32, 0, MaxU32}, 0, 0},
       {{0, Max24, 0, Max24}, Max24, Max24},
@@ -147,15 +124,11 @@ TEST(LongIntegerRange, ScaleTo) {
       {{0, 1, 0, Max64}, -2, Min64},
       {{MaxU32, MaxU32, 0, 1}, MaxU32 + 7, 7},  // invalid internal range: factor 1.0, offset only
   };
-  for (const ScaleRow& row : rows) {
-    const LongIntegerRange range = Make(row.bounds);
-    SCOPED_TRACE(range.ToString() + " value " + std::to_string(row.value));
-    EXPECT_EQ(range.ScaleTo(row.value), row.result);
-  }
+  ExpectScaledTo(rows);
 }
 
 TEST(LongIntegerRange, ScaleFrom) {
-  const ScaleRow rows[] = {
+  const ScaleRow<LongIntegerRange> rows[] = {
       {{0, Max24, 0, Max24}, Max24, Max24},
       {{0, Max24, 0, Max24}, 0, 0},
       {{0, MaxU32, 0, MaxU32}, MaxU32, MaxU32},
@@ -169,11 +142,7 @@ TEST(LongIntegerRange, ScaleFrom) {
       {{Min64, Max64, Min64, Max64}, Min64, Min64},
       {{Min64, Max64, Min64, Max64}, Max64, Max64},  // saturates back, as in ScaleTo
   };
-  for (const ScaleRow& row : rows) {
-    const LongIntegerRange range = Make(row.bounds);
-    SCOPED_TRACE(range.ToString() + " value " + std::to_string(row.value));
-    EXPECT_EQ(range.ScaleFrom(row.value), row.result);
-  }
+  ExpectScaledFrom(rows);
 }
 
 // A factor of 0 set by hand: 0 / 0 is NaN, which gives 0; infinities saturate.
@@ -190,14 +159,7 @@ TEST(LongIntegerRange, NotANumberAndInfinitySaturate) {
 }
 
 TEST(LongIntegerRange, FitToRangeAndIsInRange) {
-  struct Row {
-    Bounds bounds;
-    std::int64_t value;
-    bool inRange;
-    bool untouched;
-    std::int64_t fitted;
-  };
-  const Row rows[] = {
+  const FitRow<LongIntegerRange> rows[] = {
       {{0, MaxU32, 0, MaxU32}, -1, false, false, 0},
       {{0, MaxU32, 0, MaxU32}, 0, true, true, 0},
       {{0, MaxU32, 0, MaxU32}, MaxU32, true, true, MaxU32},
@@ -209,25 +171,13 @@ TEST(LongIntegerRange, FitToRangeAndIsInRange) {
       {{10, 0, 0, 1}, 5, false, false, 10},  // reversed: the lower bound is tested first
       {{10, 0, 0, 1}, 20, false, false, 0},
   };
-  for (const Row& row : rows) {
-    const LongIntegerRange range = Make(row.bounds);
-    SCOPED_TRACE(range.ToString() + " value " + std::to_string(row.value));
-    EXPECT_EQ(range.IsInRange(row.value), row.inRange);
-    std::int64_t value = row.value;
-    EXPECT_EQ(range.FitToRange(value), row.untouched);
-    EXPECT_EQ(value, row.fitted);
-  }
+  ExpectFits(rows);
 }
 
 // A caller may hold the value in a plain long long, which need not be
 // std::int64_t.
 TEST(LongIntegerRange, FitToRangeOfAPlainLongLong) {
-  struct Row {
-    long long value;
-    bool untouched;
-    long long fitted;
-  };
-  const Row rows[] = {
+  const PlainFitRow<long long> rows[] = {
       {0, true, 0},
       {4294967295, true, 4294967295},
       {-1, false, 0},
@@ -235,17 +185,11 @@ TEST(LongIntegerRange, FitToRangeOfAPlainLongLong) {
       {std::numeric_limits<long long>::min(), false, 0},
       {std::numeric_limits<long long>::max(), false, 4294967295},
   };
-  const LongIntegerRange range = Make({0, MaxU32, 0, MaxU32});
-  for (const Row& row : rows) {
-    SCOPED_TRACE(row.value);
-    long long value = row.value;
-    EXPECT_EQ(range.FitToRange(value), row.untouched);
-    EXPECT_EQ(value, row.fitted);
-  }
+  ExpectPlainFits(FilledRange<LongIntegerRange>({0, MaxU32, 0, MaxU32}), rows);
 }
 
 TEST(LongIntegerRange, ConversionsLogNothing) {
-  const LongIntegerRange range = Make({MaxU32, MaxU32, 0, 1});
+  const LongIntegerRange range = FilledRange<LongIntegerRange>({MaxU32, MaxU32, 0, 1});
   LogCapture capture;
   std::int64_t value = 0;
   EXPECT_FALSE(range.FitToRange(value));
@@ -256,19 +200,13 @@ TEST(LongIntegerRange, ConversionsLogNothing) {
 }
 
 TEST(LongIntegerRange, ToString) {
-  struct Row {
-    LongIntegerRange range;
-    std::string text;
-  };
-  const Row rows[] = {
+  const TextRow<LongIntegerRange> rows[] = {
       {{0, MaxU32, 0, MaxU32, 1.0}, "LongIntegerRange(0, 4294967295, 0, 4294967295)"},  // full 64-bit decimal
       {{0, Max24, 0, Max24, 1.0}, "LongIntegerRange(0, 16777215, 0, 16777215)"},
       {{Min64, Max64, -1, 1, 0.5},
        "LongIntegerRange(-9223372036854775808, 9223372036854775807, -1, 1)"},  // the factor is not written
   };
-  for (const Row& row : rows) {
-    EXPECT_EQ(row.range.ToString(), row.text);
-  }
+  ExpectTexts(rows);
 }
 
 }  // namespace

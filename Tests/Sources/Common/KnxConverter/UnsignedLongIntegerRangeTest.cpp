@@ -5,41 +5,34 @@
 #include <string>
 #include <vector>
 
+#include "ConverterLines.h"
 #include "LogCapture.h"
 #include "LongIntegerRange.h"
+#include "RangeRows.h"
 
 namespace {
 
 using Nelmo::UnsignedLongIntegerRange;
+using TestSupport::ExpectFactors;
+using TestSupport::ExpectFits;
+using TestSupport::ExpectMessages;
+using TestSupport::ExpectPlainFits;
+using TestSupport::ExpectScaledFrom;
+using TestSupport::ExpectScaledTo;
+using TestSupport::ExpectTexts;
+using TestSupport::FactorRow;
+using TestSupport::FilledRange;
+using TestSupport::FitRow;
 using TestSupport::LogCapture;
-using TestSupport::LogLine;
+using TestSupport::MessageRow;
+using TestSupport::PlainFitRow;
+using TestSupport::ScaleFactorError;
+using TestSupport::ScaleRow;
+using TestSupport::TextRow;
 
 constexpr std::uint64_t MaxU64 = std::numeric_limits<std::uint64_t>::max();
 constexpr std::uint64_t Max48 = 281474976710655;  // 2^48 - 1
 constexpr std::uint64_t Two53 = 9007199254740992;
-
-struct Bounds {
-  std::uint64_t internalMinimum;
-  std::uint64_t internalMaximum;
-  std::uint64_t externalMinimum;
-  std::uint64_t externalMaximum;
-};
-
-// Filled the way its owner fills it: bounds, factor 1.0, one calculation.
-UnsignedLongIntegerRange Make(const Bounds& bounds) {
-  UnsignedLongIntegerRange range;
-  range.internalMinimum = bounds.internalMinimum;
-  range.internalMaximum = bounds.internalMaximum;
-  range.externalMinimum = bounds.externalMinimum;
-  range.externalMaximum = bounds.externalMaximum;
-  range.scaleFactor = 1.0;
-  range.CalculateScaleFactor();
-  return range;
-}
-
-LogLine Error(const std::string& text) {
-  return LogLine{3, "KnxConverter", "CalculateScaleFactor", text};
-}
 
 TEST(UnsignedLongIntegerRange, FieldsInOrder) {
   const UnsignedLongIntegerRange range{1, 2, 3, MaxU64, 0.5};
@@ -51,11 +44,7 @@ TEST(UnsignedLongIntegerRange, FieldsInOrder) {
 }
 
 TEST(UnsignedLongIntegerRange, ScaleFactor) {
-  struct Row {
-    Bounds bounds;
-    double factor;
-  };
-  const Row rows[] = {
+  const FactorRow<UnsignedLongIntegerRange> rows[] = {
       {{0, Max48, 0, Max48}, 1.0}, {{0, MaxU64, 0, MaxU64}, 1.0},  // spans of 2^64 - 1 without overflow
       {{10, 20, 100, 200}, 10.0},  {{0, 100, 0, 255}, 2.55},      {{0, 1, 0, MaxU64}, 18446744073709551615.0},
       {{10, 5, 0, 100}, 1.0},  // reversed internal range is rejected: stays 1.0
@@ -63,10 +52,7 @@ TEST(UnsignedLongIntegerRange, ScaleFactor) {
       {{0, 100, 7, 3}, 1.0},   // reversed external range is rejected
       {{0, 100, 7, 7}, 1.0},   // empty external range
   };
-  for (const Row& row : rows) {
-    SCOPED_TRACE(Make(row.bounds).ToString());
-    EXPECT_EQ(Make(row.bounds).scaleFactor, row.factor);
-  }
+  ExpectFactors(rows);
 }
 
 TEST(UnsignedLongIntegerRange, FailedCalculationLeavesTheFactorAsItIs) {
@@ -79,48 +65,40 @@ TEST(UnsignedLongIntegerRange, FailedCalculationLeavesTheFactorAsItIs) {
 // integer spans always give a factor of at least 2^-64, so the combined
 // message cannot be reached with these ranges.
 TEST(UnsignedLongIntegerRange, CalculateScaleFactorMessages) {
-  struct Row {
-    Bounds bounds;
-    std::vector<LogLine> lines;
-  };
-  const Row rows[] = {
-      {{10, 5, 0, 100}, {Error("Failed to calculate the scale factor because of invalid internal range [10, 5].")}},
-      {{5, 5, 0, 100}, {Error("Failed to calculate the scale factor because of invalid internal range [5, 5].")}},
+  const MessageRow<UnsignedLongIntegerRange> rows[] = {
+      {{10, 5, 0, 100},
+       {ScaleFactorError("Failed to calculate the scale factor because of invalid internal range [10, 5].")}},
+      {{5, 5, 0, 100},
+       {ScaleFactorError("Failed to calculate the scale factor because of invalid internal range [5, 5].")}},
       {{MaxU64, MaxU64, 0, 1},
-       {Error("Failed to calculate the scale factor because of invalid internal range [18446744073709551615, "
-              "18446744073709551615].")}},
+       {ScaleFactorError(
+           "Failed to calculate the scale factor because of invalid internal range [18446744073709551615, "
+           "18446744073709551615].")}},
       {{4294967295, 4294967295, 0, 1},
-       {Error("Failed to calculate the scale factor because of invalid internal range [4294967295, 4294967295].")}},
-      {{0, 100, 7, 3}, {Error("Failed to calculate the scale factor because of invalid external range [7, 3].")}},
+       {ScaleFactorError(
+           "Failed to calculate the scale factor because of invalid internal range [4294967295, 4294967295].")}},
+      {{0, 100, 7, 3},
+       {ScaleFactorError("Failed to calculate the scale factor because of invalid external range [7, 3].")}},
       {{0, 100, MaxU64, 0},
-       {Error("Failed to calculate the scale factor because of invalid external range [18446744073709551615, 0].")}},
+       {ScaleFactorError(
+           "Failed to calculate the scale factor because of invalid external range [18446744073709551615, 0].")}},
       // The internal range is checked first and ends the calculation.
-      {{9, 1, 9, 1}, {Error("Failed to calculate the scale factor because of invalid internal range [9, 1].")}},
+      {{9, 1, 9, 1},
+       {ScaleFactorError("Failed to calculate the scale factor because of invalid internal range [9, 1].")}},
       {{0, Max48, 0, Max48}, {}},
       {{0, MaxU64, 0, MaxU64}, {}},
   };
-  for (const Row& row : rows) {
-    LogCapture capture;
-    const UnsignedLongIntegerRange range = Make(row.bounds);
-    SCOPED_TRACE(range.ToString());
-    EXPECT_EQ(capture.Lines(), row.lines);
-  }
+  ExpectMessages(rows);
 }
 
 TEST(UnsignedLongIntegerRange, NoMessageWhenErrorsAreNotLogged) {
   LogCapture capture(ULO_LOG_OFF);
-  Make({10, 5, 0, 100});
+  FilledRange<UnsignedLongIntegerRange>({10, 5, 0, 100});
   EXPECT_TRUE(capture.Lines().empty());
 }
 
-struct ScaleRow {
-  Bounds bounds;
-  std::uint64_t value;
-  std::uint64_t result;
-};
-
 TEST(UnsignedLongIntegerRange, ScaleTo) {
-  const ScaleRow rows[] = {
+  const ScaleRow<UnsignedLongIntegerRange> rows[] = {
       {{0, Max48, 0, Max48}, Max48, Max48},  // every integer up to 2^53 is exact in a double
       {{0, Max48, 0, Max48}, 0, 0},
       {{10, 20, 100, 200}, 15, 150},
@@ -143,15 +121,11 @@ TEST(UnsignedLongIntegerRange, ScaleTo) {
       {{10, 5, 0, 100}, 12, MaxU64},
       {{10, 5, 0, 100}, 7, 0},  // below the minimum: offset 0, 0 + 0.5
   };
-  for (const ScaleRow& row : rows) {
-    const UnsignedLongIntegerRange range = Make(row.bounds);
-    SCOPED_TRACE(range.ToString() + " value " + std::to_string(row.value));
-    EXPECT_EQ(range.ScaleTo(row.value), row.result);
-  }
+  ExpectScaledTo(rows);
 }
 
 TEST(UnsignedLongIntegerRange, ScaleFrom) {
-  const ScaleRow rows[] = {
+  const ScaleRow<UnsignedLongIntegerRange> rows[] = {
       {{0, Max48, 0, Max48}, Max48, Max48},
       {{10, 20, 100, 200}, 150, 15},
       {{10, 20, 100, 200}, 155, 16},  // 15.5 + 0.5
@@ -165,11 +139,7 @@ TEST(UnsignedLongIntegerRange, ScaleFrom) {
       {{0, MaxU64, 0, MaxU64}, MaxU64, MaxU64},
       {{0, MaxU64, 0, 1}, 1, MaxU64},
   };
-  for (const ScaleRow& row : rows) {
-    const UnsignedLongIntegerRange range = Make(row.bounds);
-    SCOPED_TRACE(range.ToString() + " value " + std::to_string(row.value));
-    EXPECT_EQ(range.ScaleFrom(row.value), row.result);
-  }
+  ExpectScaledFrom(rows);
 }
 
 // A factor of 0 set by hand: 0 / 0 is NaN, which gives 0; infinity saturates.
@@ -186,14 +156,7 @@ TEST(UnsignedLongIntegerRange, NotANumberAndInfinitySaturate) {
 }
 
 TEST(UnsignedLongIntegerRange, FitToRangeAndIsInRange) {
-  struct Row {
-    Bounds bounds;
-    std::uint64_t value;
-    bool inRange;
-    bool untouched;
-    std::uint64_t fitted;
-  };
-  const Row rows[] = {
+  const FitRow<UnsignedLongIntegerRange> rows[] = {
       {{10, 20, 0, 1}, 10, true, true, 10},
       {{10, 20, 0, 1}, 20, true, true, 20},
       {{10, 20, 0, 1}, 9, false, false, 10},
@@ -205,39 +168,21 @@ TEST(UnsignedLongIntegerRange, FitToRangeAndIsInRange) {
       {{10, 5, 0, 1}, 7, false, false, 10},  // reversed: the lower bound is tested first
       {{10, 5, 0, 1}, 12, false, false, 5},
   };
-  for (const Row& row : rows) {
-    const UnsignedLongIntegerRange range = Make(row.bounds);
-    SCOPED_TRACE(range.ToString() + " value " + std::to_string(row.value));
-    EXPECT_EQ(range.IsInRange(row.value), row.inRange);
-    std::uint64_t value = row.value;
-    EXPECT_EQ(range.FitToRange(value), row.untouched);
-    EXPECT_EQ(value, row.fitted);
-  }
+  ExpectFits(rows);
 }
 
 // A caller may hold the value in a plain unsigned long long, which need not
 // be std::uint64_t.
 TEST(UnsignedLongIntegerRange, FitToRangeOfAPlainUnsignedLongLong) {
-  struct Row {
-    unsigned long long value;
-    bool untouched;
-    unsigned long long fitted;
-  };
-  const Row rows[] = {
+  const PlainFitRow<unsigned long long> rows[] = {
       {10, true, 10},  {20, true, 20}, {9, false, 10},
       {21, false, 20}, {0, false, 10}, {std::numeric_limits<unsigned long long>::max(), false, 20},
   };
-  const UnsignedLongIntegerRange range = Make({10, 20, 0, 1});
-  for (const Row& row : rows) {
-    SCOPED_TRACE(row.value);
-    unsigned long long value = row.value;
-    EXPECT_EQ(range.FitToRange(value), row.untouched);
-    EXPECT_EQ(value, row.fitted);
-  }
+  ExpectPlainFits(FilledRange<UnsignedLongIntegerRange>({10, 20, 0, 1}), rows);
 }
 
 TEST(UnsignedLongIntegerRange, ConversionsLogNothing) {
-  const UnsignedLongIntegerRange range = Make({10, 5, 0, 100});
+  const UnsignedLongIntegerRange range = FilledRange<UnsignedLongIntegerRange>({10, 5, 0, 100});
   LogCapture capture;
   std::uint64_t value = 0;
   EXPECT_FALSE(range.FitToRange(value));
@@ -248,18 +193,12 @@ TEST(UnsignedLongIntegerRange, ConversionsLogNothing) {
 }
 
 TEST(UnsignedLongIntegerRange, ToString) {
-  struct Row {
-    UnsignedLongIntegerRange range;
-    std::string text;
-  };
-  const Row rows[] = {
+  const TextRow<UnsignedLongIntegerRange> rows[] = {
       {{0, Max48, 0, Max48, 1.0}, "UnsignedLongIntegerRange(0, 281474976710655, 0, 281474976710655)"},
       {{0, MaxU64, 10, 5, 0.5},
        "UnsignedLongIntegerRange(0, 18446744073709551615, 10, 5)"},  // the factor is not written
   };
-  for (const Row& row : rows) {
-    EXPECT_EQ(row.range.ToString(), row.text);
-  }
+  ExpectTexts(rows);
 }
 
 }  // namespace
