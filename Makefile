@@ -113,9 +113,11 @@ package: deps build/package-amd64/CMakeCache.txt build/package-armhf/CMakeCache.
 	cd build/package-armhf && cpack -B $(CURDIR)/build/packages
 	scripts/list-packages.sh build/packages
 
-# Installs the amd64 packages, tests against /usr, removes them (root).
+# Installs the amd64 packages, tests against /usr, removes them (root); the
+# armhf packages unpacked into a sysroot for a cross-compiled consumer.
 test-packages: package
 	scripts/test-packages.sh build/packages
+	scripts/test-consumer-armhf.sh build/packages build/consumer-armhf
 
 fuzz: build-fuzz
 	Fuzz/run-fuzzers.sh build/fuzz $(FUZZ_SECONDS)
