@@ -25,9 +25,20 @@ int ThresholdFromEnvironment() {
   return value > ULO_LOG_OFF ? ULO_LOG_OFF : static_cast<int>(value);
 }
 
-std::atomic<int>& Threshold() {
+// Set once the threshold below exists. Constant-initialised, so it may be
+// read before any dynamic initialisation, and it keeps the first-use set-up
+// out of the check that every conversion makes.
+std::atomic<std::atomic<int>*> g_threshold{nullptr};
+
+[[gnu::noinline]] std::atomic<int>& FirstThreshold() {
   static std::atomic<int> threshold{ThresholdFromEnvironment()};
+  g_threshold.store(&threshold, std::memory_order_release);
   return threshold;
+}
+
+std::atomic<int>& Threshold() {
+  std::atomic<int>* threshold = g_threshold.load(std::memory_order_acquire);
+  return threshold != nullptr ? *threshold : FirstThreshold();
 }
 
 // The sink is swapped under a lock but called through a shared copy, so a
