@@ -61,16 +61,8 @@ bool FloatRange::IsInRange(const double& value) const {
   return IsWithin(value, internalMinimum, internalMaximum);
 }
 
-bool FloatRange::FitToRange(double& value) const {
-  return FitInto(value, internalMinimum, internalMaximum);
-}
-
 double FloatRange::ScaleTo(double value) const {
   return (value - internalMinimum) * scaleFactor + externalMinimum;
-}
-
-double FloatRange::ScaleFrom(double value) const {
-  return (value - externalMinimum) / scaleFactor + internalMinimum;
 }
 
 namespace {

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "NelmoExport.h"
+#include "RangeClamp.h"
 
 namespace Nelmo {
 
@@ -40,9 +41,10 @@ class NELMO_EXPORT FloatRange {
   double scaleFactor = 1.0;
 
   bool IsInRange(const double& value) const;
-  bool FitToRange(double& value) const;
+  // Inline, as the floating-point converters call these on every conversion.
+  bool FitToRange(double& value) const { return RangeClamp::FitInto(value, internalMinimum, internalMaximum); }
   double ScaleTo(double value) const;
-  double ScaleFrom(double value) const;
+  double ScaleFrom(double value) const { return (value - externalMinimum) / scaleFactor + internalMinimum; }
   void CalculateScaleFactor();
   std::string ToString() const;
 };
