@@ -3,8 +3,11 @@
 #include <string>
 
 #include "CodingUtf8.h"
+#include "RowName.h"
 
 namespace {
+
+using TestSupport::RowName;
 
 struct Row {
   const char* name;
@@ -39,8 +42,7 @@ const Row rows[] = {
     {"LeadingZero", "\0A", ""},
 };
 
-INSTANTIATE_TEST_SUITE_P(Rows, Iso88591ToUtf8, testing::ValuesIn(rows),
-                         [](const testing::TestParamInfo<Row>& info) { return std::string(info.param.name); });
+INSTANTIATE_TEST_SUITE_P(Rows, Iso88591ToUtf8, testing::ValuesIn(rows), RowName());
 
 TEST(Iso88591ToUtf8Null, GivesEmptyText) {
   EXPECT_EQ(Nelmo::CodingUtf8::Iso88591ToUtf8(nullptr), "");

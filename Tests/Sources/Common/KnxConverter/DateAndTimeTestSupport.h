@@ -1,7 +1,8 @@
 #pragma once
 
 // Shared by the date and time converter tests: group values built from and
-// compared as bus bytes, date/time payloads and the expected log lines.
+// compared as bus bytes, date/time payloads, the expected log lines and the
+// checks of sending, receiving and refusing.
 
 #include <cstdint>
 #include <ostream>
@@ -10,27 +11,27 @@
 
 #include <gtest/gtest.h>
 
+#include "ConverterLines.h"
+#include "KnxConverter.h"
 #include "KnxStack.h"
+#include "KnxTestBytes.h"
 #include "LogCapture.h"
+#include "RowName.h"
 #include "UloPlatform.h"
 #include "Weekdays.h"
 
 namespace DateAndTimeTest {
 
-using Bytes = std::vector<unsigned char>;
 using Day = ULO::Weekdays::Days;
+using KnxTest::Bytes;
+using KnxTest::BytesOf;
+using KnxTest::GroupOf;
+using KnxTest::GroupValueExceptionText;  // the stack's text, which the converters append
+using TestSupport::Error;
 using TestSupport::LogLine;
+using TestSupport::RowName;
 
 constexpr Day NoWeekday = static_cast<Day>(0);
-
-inline Bytes BytesOf(const KnxStack::GroupValue& groupValue) {
-  const KnxStack::BinaryData& data = groupValue.GetRawData();
-  return Bytes(data.GetData(), data.GetData() + data.GetLength());
-}
-
-inline KnxStack::GroupValue GroupOf(const Bytes& bytes, unsigned int bits) {
-  return KnxStack::GroupValue(KnxStack::BinaryData(bytes.data(), static_cast<unsigned int>(bytes.size())), bits);
-}
 
 inline ULOVALUE ValueOf(UloValueType type, const ULOTIME& time) {
   ULOVALUE value(type);
@@ -38,30 +39,43 @@ inline ULOVALUE ValueOf(UloValueType type, const ULOTIME& time) {
   return value;
 }
 
-inline LogLine Error(const char* function, const std::string& text) {
-  return LogLine{ULO_LOG_ERROR, "KnxConverter", function, text};
+// Sends the value and checks the row's result, bytes and lines; a refusal
+// leaves the group value empty.
+template <typename Row>
+void ExpectSent(Nelmo::KnxConverter& converter, const KNXDPT& dpt, const ULOVALUE& value, unsigned int bits,
+                const Row& row) {
+  TestSupport::LogCapture capture;
+  KnxStack::GroupValue groupValue;
+  EXPECT_EQ(converter.ToKnxValue(dpt, value, groupValue), row.result);
+  EXPECT_EQ(BytesOf(groupValue), row.bytes);
+  EXPECT_EQ(groupValue.GetDefinedSize(), row.bytes.empty() ? 0u : bits);
+  EXPECT_EQ(capture.Lines(), row.log);
 }
 
-// The stack's own text for a failing accessor call, which the converters
-// append to their message.
-template <typename Call>
-std::string StackMessage(Call&& call) {
-  try {
-    call();
-  } catch (const KnxStack::GroupValueException& exception) {
-    return exception.what();
-  }
-  ADD_FAILURE() << "the accessor did not throw";
-  return "";
+// Receives the row's bytes into a value of the type that holds before, and
+// checks the row's result, date and time, and lines.
+template <typename Row>
+void ExpectReceived(Nelmo::KnxConverter& converter, const KNXDPT& dpt, unsigned int bits, UloValueType type,
+                    const ULOTIME& before, const Row& row) {
+  TestSupport::LogCapture capture;
+  ULOVALUE value = ValueOf(type, before);
+  EXPECT_EQ(converter.FromKnxValue(dpt, GroupOf(row.bytes, bits), value), row.result);
+  EXPECT_EQ(value.GetTime(), row.time);
+  EXPECT_EQ(value.GetType(), type);
+  EXPECT_EQ(capture.Lines(), row.log);
 }
 
-// Test names from the rows' name column.
-struct RowName {
-  template <typename Row>
-  std::string operator()(const testing::TestParamInfo<Row>& info) const {
-    return info.param.name;
-  }
-};
+// A group value that makes the stack throw: the converter refuses it with
+// the message and leaves the value as it was.
+inline void ExpectCaughtOnReceive(Nelmo::KnxConverter& converter, const KNXDPT& dpt, UloValueType type,
+                                  const ULOTIME& before, const KnxStack::GroupValue& groupValue,
+                                  const std::string& message) {
+  TestSupport::LogCapture capture;
+  ULOVALUE value = ValueOf(type, before);
+  EXPECT_FALSE(converter.FromKnxValue(dpt, groupValue, value));
+  EXPECT_EQ(value.GetTime(), before);
+  EXPECT_EQ(capture.Lines(), std::vector<LogLine>{Error("FromKnxValue", message)});
+}
 
 }  // namespace DateAndTimeTest
 

@@ -13,12 +13,8 @@
 
 namespace {
 
+using namespace TestSupport;
 using Nelmo::FloatIntegerRange;
-using TestSupport::ExpectTexts;
-using TestSupport::LogCapture;
-using TestSupport::LogLine;
-using TestSupport::ScaleFactorError;
-using TestSupport::TextRow;
 using Bounds = TestSupport::RangeBounds<FloatIntegerRange>;
 
 constexpr std::int32_t Min32 = std::numeric_limits<std::int32_t>::min();

@@ -12,18 +12,8 @@
 
 namespace {
 
+using namespace TestSupport;
 using Nelmo::FloatRange;
-using TestSupport::ExpectFactors;
-using TestSupport::ExpectFits;
-using TestSupport::ExpectMessages;
-using TestSupport::ExpectTexts;
-using TestSupport::FactorRow;
-using TestSupport::FilledRange;
-using TestSupport::FitRow;
-using TestSupport::LogCapture;
-using TestSupport::MessageRow;
-using TestSupport::ScaleFactorError;
-using TestSupport::TextRow;
 
 constexpr double NaN = std::numeric_limits<double>::quiet_NaN();
 constexpr double Infinity = std::numeric_limits<double>::infinity();

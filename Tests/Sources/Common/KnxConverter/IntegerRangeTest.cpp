@@ -12,23 +12,8 @@
 
 namespace {
 
+using namespace TestSupport;
 using Nelmo::IntegerRange;
-using TestSupport::ExpectFactors;
-using TestSupport::ExpectFits;
-using TestSupport::ExpectMessages;
-using TestSupport::ExpectPlainFits;
-using TestSupport::ExpectScaledFrom;
-using TestSupport::ExpectScaledTo;
-using TestSupport::ExpectTexts;
-using TestSupport::FactorRow;
-using TestSupport::FilledRange;
-using TestSupport::FitRow;
-using TestSupport::LogCapture;
-using TestSupport::MessageRow;
-using TestSupport::PlainFitRow;
-using TestSupport::ScaleFactorError;
-using TestSupport::ScaleRow;
-using TestSupport::TextRow;
 
 constexpr std::int32_t Min32 = std::numeric_limits<std::int32_t>::min();
 constexpr std::int32_t Max32 = std::numeric_limits<std::int32_t>::max();

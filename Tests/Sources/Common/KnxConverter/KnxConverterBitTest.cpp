@@ -15,9 +15,9 @@ namespace {
 using namespace ScalarConverterTest;
 using Nelmo::KnxConverter;
 
-const KNXDPT Dpt1 = DptOf(1, 1, 1);
-const KNXDPT Dpt2 = DptOf(2, 2, 1);
-const KNXDPT Dpt3 = DptOf(4, 3, 7);
+const KNXDPT Dpt1{1, 1, 1};
+const KNXDPT Dpt2{2, 2, 1};
+const KNXDPT Dpt3{4, 3, 7};
 
 // The range of the standard 3.x row.
 Nelmo::FloatIntegerRange Dpt3Range() {
@@ -29,20 +29,12 @@ Nelmo::FloatIntegerRange Dpt3Range() {
 
 TEST(KnxConverter1Bit, SendsTheBoolean) {
   Nelmo::KnxConverter1Bit converter;
-  struct Row {
-    bool value;
-    Bytes bytes;
-  };
-  const Row rows[] = {
-      {false, {0x00}},
-      {true, {0x01}},
-  };
-  for (const Row& row : rows) {
-    SCOPED_TRACE(row.value);
-    KnxStack::GroupValue groupValue = Untouched();
-    EXPECT_TRUE(converter.ToKnxValue(Dpt1, ULOVALUE::Bool(row.value), groupValue));
-    EXPECT_TRUE(Holds(groupValue, row.bytes, 1));
-  }
+  ExpectSends(converter, Dpt1,
+              {
+                  {ULOVALUE::Bool(false), {0x00}},
+                  {ULOVALUE::Bool(true), {0x01}},
+              },
+              1, Untouched());
 }
 
 TEST(KnxConverter1Bit, ReceivesTheBoolean) {
@@ -66,35 +58,19 @@ TEST(KnxConverter1Bit, ReceivesTheBoolean) {
 
 TEST(KnxConverter1Bit, RefusesAnythingButABooleanOnMainNumber1Silently) {
   Nelmo::KnxConverter1Bit converter;
-  struct Row {
-    const char* name;
-    KNXDPT dpt;
-    ULOVALUE value;
-  };
-  const Row rows[] = {
+  const RefusalRow rows[] = {
       {"integer", Dpt1, ULOVALUE::Int32(1)},
       {"double", Dpt1, ULOVALUE::Double(1.0)},
       {"byte", Dpt1, ULOVALUE::Byte(1)},
-      {"boolean on 2.x", DptOf(1, 2, 1), ULOVALUE::Bool(true)},
-      {"boolean on 5.x", DptOf(1, 5, 1), ULOVALUE::Bool(true)},
+      {"boolean on 2.x", KNXDPT{1, 2, 1}, ULOVALUE::Bool(true)},
+      {"boolean on 5.x", KNXDPT{1, 5, 1}, ULOVALUE::Bool(true)},
   };
-  for (const Row& row : rows) {
-    SCOPED_TRACE(row.name);
-    TestSupport::LogCapture capture(ULO_LOG_INFO);
-    KnxStack::GroupValue groupValue = Untouched();
-    EXPECT_FALSE(converter.ToKnxValue(row.dpt, row.value, groupValue));
-    EXPECT_TRUE(IsUntouched(groupValue));
-    EXPECT_TRUE(capture.Lines().empty());
-  }
+  ExpectRefusedSilently(converter, rows);
 }
 
 TEST(KnxConverter1Bit, ReceivesOnlyOnMainNumber1) {
   Nelmo::KnxConverter1Bit converter;
-  TestSupport::LogCapture capture;
-  ULOVALUE value = ULOVALUE::Bool(false);
-  EXPECT_FALSE(converter.FromKnxValue(DptOf(1, 2, 1), GroupOf({0x01}, 1), value));
-  EXPECT_FALSE(value.GetBool());
-  EXPECT_TRUE(capture.Lines().empty());
+  ExpectNotReceivedSilently(converter, KNXDPT{1, 2, 1}, GroupOf({0x01}, 1));
 }
 
 // ---------------------------------------------------------------------------
@@ -102,20 +78,12 @@ TEST(KnxConverter1Bit, ReceivesOnlyOnMainNumber1) {
 
 TEST(KnxConverter2Bit, SendsTheValueBitWithTheControlBitSet) {
   Nelmo::KnxConverter2Bit converter;
-  struct Row {
-    bool value;
-    Bytes bytes;
-  };
-  const Row rows[] = {
-      {false, {0x02}},
-      {true, {0x03}},
-  };
-  for (const Row& row : rows) {
-    SCOPED_TRACE(row.value);
-    KnxStack::GroupValue groupValue;
-    EXPECT_TRUE(converter.ToKnxValue(Dpt2, ULOVALUE::Bool(row.value), groupValue));
-    EXPECT_TRUE(Holds(groupValue, row.bytes, 2));
-  }
+  ExpectSends(converter, Dpt2,
+              {
+                  {ULOVALUE::Bool(false), {0x02}},
+                  {ULOVALUE::Bool(true), {0x03}},
+              },
+              2);
 }
 
 TEST(KnxConverter2Bit, ReceivesTheValueBitAndDropsTheControlBit) {
@@ -140,33 +108,17 @@ TEST(KnxConverter2Bit, ReceivesTheValueBitAndDropsTheControlBit) {
 
 TEST(KnxConverter2Bit, RefusesAnythingButABooleanOnMainNumber2Silently) {
   Nelmo::KnxConverter2Bit converter;
-  struct Row {
-    const char* name;
-    KNXDPT dpt;
-    ULOVALUE value;
-  };
-  const Row rows[] = {
+  const RefusalRow rows[] = {
       {"integer", Dpt2, ULOVALUE::Int32(1)},
       {"double", Dpt2, ULOVALUE::Double(1.0)},
-      {"boolean on 1.x", DptOf(2, 1, 1), ULOVALUE::Bool(true)},
+      {"boolean on 1.x", KNXDPT{2, 1, 1}, ULOVALUE::Bool(true)},
   };
-  for (const Row& row : rows) {
-    SCOPED_TRACE(row.name);
-    TestSupport::LogCapture capture(ULO_LOG_INFO);
-    KnxStack::GroupValue groupValue = Untouched();
-    EXPECT_FALSE(converter.ToKnxValue(row.dpt, row.value, groupValue));
-    EXPECT_TRUE(IsUntouched(groupValue));
-    EXPECT_TRUE(capture.Lines().empty());
-  }
+  ExpectRefusedSilently(converter, rows);
 }
 
 TEST(KnxConverter2Bit, ReceivesOnlyOnMainNumber2) {
   Nelmo::KnxConverter2Bit converter;
-  TestSupport::LogCapture capture;
-  ULOVALUE value = ULOVALUE::Bool(false);
-  EXPECT_FALSE(converter.FromKnxValue(DptOf(2, 1, 1), GroupOf({0x03}, 2), value));
-  EXPECT_FALSE(value.GetBool());
-  EXPECT_TRUE(capture.Lines().empty());
+  ExpectNotReceivedSilently(converter, KNXDPT{2, 1, 1}, GroupOf({0x03}, 2));
 }
 
 // ---------------------------------------------------------------------------
@@ -174,20 +126,18 @@ TEST(KnxConverter2Bit, ReceivesOnlyOnMainNumber2) {
 
 TEST(KnxConverter4Bit, SendsTheStepCodeOfTheClampedPercentage) {
   Nelmo::KnxConverter4Bit converter(Dpt3Range());
-  struct Row {
-    double value;
-    Bytes bytes;
-  };
-  const Row rows[] = {
-      {-100.0, {0x01}}, {100.0, {0x09}}, {0.0, {0x00}},   {150.0, {0x09}},
-      {-250.0, {0x01}}, {50.0, {0x0A}},  {-12.5, {0x04}}, {1.0, {0x0F}},
-  };
-  for (const Row& row : rows) {
-    SCOPED_TRACE(row.value);
-    KnxStack::GroupValue groupValue;
-    EXPECT_TRUE(converter.ToKnxValue(Dpt3, ULOVALUE::Double(row.value), groupValue));
-    EXPECT_TRUE(Holds(groupValue, row.bytes, 4));
-  }
+  ExpectSends(converter, Dpt3,
+              {
+                  {ULOVALUE::Double(-100.0), {0x01}},
+                  {ULOVALUE::Double(100.0), {0x09}},
+                  {ULOVALUE::Double(0.0), {0x00}},
+                  {ULOVALUE::Double(150.0), {0x09}},
+                  {ULOVALUE::Double(-250.0), {0x01}},
+                  {ULOVALUE::Double(50.0), {0x0A}},
+                  {ULOVALUE::Double(-12.5), {0x04}},
+                  {ULOVALUE::Double(1.0), {0x0F}},
+              },
+              4);
 }
 
 // No range is applied on the way in.
@@ -231,31 +181,19 @@ TEST(KnxConverter4Bit, ReceivesStepsBeyondItsRangeUnclamped) {
 
 TEST(KnxConverter4Bit, RefusesAnythingButADoubleOnMainNumber3Silently) {
   Nelmo::KnxConverter4Bit converter(Dpt3Range());
-  struct Row {
-    const char* name;
-    KNXDPT dpt;
-    ULOVALUE value;
-  };
-  const Row rows[] = {
-      {"double on 1.x", DptOf(4, 1, 1), ULOVALUE::Double(50.0)},
+  const RefusalRow rows[] = {
+      {"double on 1.x", KNXDPT{4, 1, 1}, ULOVALUE::Double(50.0)},
       {"boolean", Dpt3, ULOVALUE::Bool(true)},
       {"integer", Dpt3, ULOVALUE::Int32(50)},
       {"dimming kind", Dpt3, ULOVALUE::Double(50.0, IVT_DIMMING)},
   };
-  for (const Row& row : rows) {
-    SCOPED_TRACE(row.name);
-    TestSupport::LogCapture capture(ULO_LOG_INFO);
-    KnxStack::GroupValue groupValue = Untouched();
-    EXPECT_FALSE(converter.ToKnxValue(row.dpt, row.value, groupValue));
-    EXPECT_TRUE(IsUntouched(groupValue));
-    EXPECT_TRUE(capture.Lines().empty());
-  }
+  ExpectRefusedSilently(converter, rows);
 }
 
 TEST(KnxConverter4Bit, ReceivesOnlyOnMainNumber3) {
   Nelmo::KnxConverter4Bit converter(Dpt3Range());
   ULOVALUE value = ULOVALUE::Double(7.0);
-  EXPECT_FALSE(converter.FromKnxValue(DptOf(4, 1, 1), GroupOf({0x09}, 4), value));
+  EXPECT_FALSE(converter.FromKnxValue(KNXDPT{4, 1, 1}, GroupOf({0x09}, 4), value));
   EXPECT_EQ(value.GetDouble(), 7.0);
 }
 
@@ -274,7 +212,7 @@ TEST(BitConverterMessages, SendingIsTracedAtLevel0) {
   };
   const Row rows[] = {
       {&oneBit, Dpt1, ULOVALUE::Bool(true), "DPT is used. DPT = 1.1 ivt=2 val=true"},
-      {&twoBit, DptOf(2, 2, 0), ULOVALUE::Bool(false), "DPT is used. DPT = 2.0 ivt=2 val=false"},
+      {&twoBit, KNXDPT{2, 2, 0}, ULOVALUE::Bool(false), "DPT is used. DPT = 2.0 ivt=2 val=false"},
       {&fourBit, Dpt3, ULOVALUE::Double(-12.5), "DPT is used. DPT = 3.7 ivt=3 val=-12.5"},
       // A refused value is traced all the same.
       {&oneBit, Dpt1, ULOVALUE::Int32(1), "DPT is used. DPT = 1.1 ivt=4 val=1"},
@@ -365,14 +303,7 @@ TEST(BitConverterMessages, NothingIsAllocatedWhileLoggingIsOff) {
   };
   for (const Row& row : rows) {
     SCOPED_TRACE(row.value.ToString());
-    KnxStack::GroupValue groupValue;
-    ULOVALUE received(row.value.GetType());
-    TestSupport::LogCapture capture(ULO_LOG_OFF);
-    EXPECT_EQ(CountedAllocations::During([&] {
-                EXPECT_TRUE(row.converter->ToKnxValue(row.dpt, row.value, groupValue));
-                EXPECT_TRUE(row.converter->FromKnxValue(row.dpt, groupValue, received));
-              }),
-              0);
+    ExpectRoundTripAllocatesNothing(*row.converter, row.dpt, row.value);
   }
 }
 
@@ -428,12 +359,7 @@ TEST(BitConverterClone, KeepsTheRangeAndLeavesTheSourceUsable) {
   // A narrower range than the standard row's, so that the clamping after the
   // clone is gone shows the source's own range.
   Nelmo::KnxConverter4Bit source(Nelmo::FloatIntegerRange(-50.0, 50.0, 0, 15));
-  {
-    std::unique_ptr<KnxConverter> clone(source.Clone());
-    const auto* typed = dynamic_cast<const Nelmo::KnxConverter4Bit*>(clone.get());
-    ASSERT_NE(typed, nullptr);
-    EXPECT_TRUE(SameRange(typed->GetRange(), source.GetRange()));
-  }
+  ExpectCloneKeepsRange(source);
   KnxStack::GroupValue groupValue;
   EXPECT_TRUE(source.ToKnxValue(Dpt3, ULOVALUE::Double(100.0), groupValue));
   EXPECT_TRUE(Holds(groupValue, {0x0A}, 4));

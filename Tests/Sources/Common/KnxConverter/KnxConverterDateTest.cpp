@@ -68,15 +68,9 @@ class KnxConverterDateSend : public testing::TestWithParam<SendRow> {};
 
 TEST_P(KnxConverterDateSend, WritesBusBytesOrRefuses) {
   const SendRow& row = GetParam();
-  LogCapture capture;
   KnxConverterDate converter;
-  KnxStack::GroupValue groupValue;
-  const ULOVALUE value = ValueOf(IVT_DATE, ULOTIME{row.year, row.month, row.day, 0, 0, 0, NoWeekday, 0, true});
-
-  EXPECT_EQ(converter.ToKnxValue(Dpt11, value, groupValue), row.result);
-  EXPECT_EQ(BytesOf(groupValue), row.bytes);
-  EXPECT_EQ(groupValue.GetDefinedSize(), row.bytes.empty() ? 0u : 24u);
-  EXPECT_EQ(capture.Lines(), row.log);
+  ExpectSent(converter, Dpt11, ValueOf(IVT_DATE, ULOTIME{row.year, row.month, row.day, 0, 0, 0, NoWeekday, 0, true}),
+             24, row);
 }
 
 INSTANTIATE_TEST_SUITE_P(Rows, KnxConverterDateSend, testing::ValuesIn(sendRows), RowName());
@@ -137,22 +131,15 @@ const ReceiveRow receiveRows[] = {
 class KnxConverterDateReceive : public testing::TestWithParam<ReceiveRow> {};
 
 TEST_P(KnxConverterDateReceive, ReadsBusBytesOrRefuses) {
-  const ReceiveRow& row = GetParam();
-  LogCapture capture;
   KnxConverterDate converter;
-  ULOVALUE value = ValueOf(IVT_DATE, before);
-
-  EXPECT_EQ(converter.FromKnxValue(Dpt11, GroupOf(row.bytes, 24), value), row.result);
-  EXPECT_EQ(value.GetTime(), row.time);
-  EXPECT_EQ(value.GetType(), IVT_DATE);
-  EXPECT_EQ(capture.Lines(), row.log);
+  ExpectReceived(converter, Dpt11, 24, IVT_DATE, before, GetParam());
 }
 
 INSTANTIATE_TEST_SUITE_P(Rows, KnxConverterDateReceive, testing::ValuesIn(receiveRows), RowName());
 
 // The stack's exception is caught inside and reported by the converter.
 TEST(KnxConverterDate, DayThatDoesNotFitItsBitsIsCaughtOnSend) {
-  const std::string stackText = StackMessage([] { KnxStack::GroupValue().SetAsDate(40, 1, 2024); });
+  const std::string stackText = GroupValueExceptionText([] { KnxStack::GroupValue().SetAsDate(40, 1, 2024); });
   LogCapture capture;
   KnxConverterDate converter;
   KnxStack::GroupValue groupValue;
@@ -185,15 +172,10 @@ class KnxConverterDateWrongSize : public testing::TestWithParam<WrongSizeRow> {}
 TEST_P(KnxConverterDateWrongSize, IsCaughtOnReceive) {
   const WrongSizeRow& row = GetParam();
   const KnxStack::GroupValue groupValue = GroupOf(row.bytes, row.bits);
-  const std::string stackText = StackMessage([&] { groupValue.GetAsDate(nullptr, nullptr, nullptr); });
-  LogCapture capture;
+  const std::string stackText = GroupValueExceptionText([&] { groupValue.GetAsDate(nullptr, nullptr, nullptr); });
   KnxConverterDate converter;
-  ULOVALUE value = ValueOf(IVT_DATE, before);
-
-  EXPECT_FALSE(converter.FromKnxValue(Dpt11, groupValue, value));
-  EXPECT_EQ(value.GetTime(), before);
-  EXPECT_EQ(capture.Lines(),
-            std::vector<LogLine>{Error("FromKnxValue", "Exception caught during conversion of date: " + stackText)});
+  ExpectCaughtOnReceive(converter, Dpt11, IVT_DATE, before, groupValue,
+                        "Exception caught during conversion of date: " + stackText);
 }
 
 INSTANTIATE_TEST_SUITE_P(Rows, KnxConverterDateWrongSize, testing::ValuesIn(wrongSizeRows), RowName());

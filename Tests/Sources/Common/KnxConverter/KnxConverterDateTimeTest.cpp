@@ -110,14 +110,8 @@ class KnxConverterDateTimeSend : public testing::TestWithParam<SendRow> {};
 
 TEST_P(KnxConverterDateTimeSend, WritesBusBytesOrRefuses) {
   const SendRow& row = GetParam();
-  LogCapture capture;
   KnxConverterDateTime converter;
-  KnxStack::GroupValue groupValue;
-
-  EXPECT_EQ(converter.ToKnxValue(Dpt19, ValueOf(IVT_DATETIME, row.time), groupValue), row.result);
-  EXPECT_EQ(BytesOf(groupValue), row.bytes);
-  EXPECT_EQ(groupValue.GetDefinedSize(), row.bytes.empty() ? 0u : 64u);
-  EXPECT_EQ(capture.Lines(), row.log);
+  ExpectSent(converter, Dpt19, ValueOf(IVT_DATETIME, row.time), 64, row);
 }
 
 INSTANTIATE_TEST_SUITE_P(Rows, KnxConverterDateTimeSend, testing::ValuesIn(sendRows), RowName());
@@ -146,7 +140,7 @@ class KnxConverterDateTimeDoesNotFit : public testing::TestWithParam<DoesNotFitR
 
 TEST_P(KnxConverterDateTimeDoesNotFit, IsCaughtOnSend) {
   const DoesNotFitRow& row = GetParam();
-  const std::string stackText = StackMessage([&] {
+  const std::string stackText = GroupValueExceptionText([&] {
     KnxStack::GroupValue().SetAsDateTime(row.day, row.month, 2024, row.hour, row.minute, row.second,
                                          KnxStack::GroupValue::Thursday, false, false, true, false, false, false, false,
                                          false, false);
@@ -316,15 +310,8 @@ const ReceiveRow receiveRows[] = {
 class KnxConverterDateTimeReceive : public testing::TestWithParam<ReceiveRow> {};
 
 TEST_P(KnxConverterDateTimeReceive, ReadsBusBytesOrRefuses) {
-  const ReceiveRow& row = GetParam();
-  LogCapture capture;
   KnxConverterDateTime converter;
-  ULOVALUE value = ValueOf(IVT_DATETIME, before);
-
-  EXPECT_EQ(converter.FromKnxValue(Dpt19, GroupOf(row.bytes, 64), value), row.result);
-  EXPECT_EQ(value.GetTime(), row.time);
-  EXPECT_EQ(value.GetType(), IVT_DATETIME);
-  EXPECT_EQ(capture.Lines(), row.log);
+  ExpectReceived(converter, Dpt19, 64, IVT_DATETIME, before, GetParam());
 }
 
 INSTANTIATE_TEST_SUITE_P(Rows, KnxConverterDateTimeReceive, testing::ValuesIn(receiveRows), RowName());
@@ -352,18 +339,13 @@ class KnxConverterDateTimeWrongSize : public testing::TestWithParam<WrongSizeRow
 TEST_P(KnxConverterDateTimeWrongSize, IsCaughtOnReceive) {
   const WrongSizeRow& row = GetParam();
   const KnxStack::GroupValue groupValue = GroupOf(row.bytes, row.bits);
-  const std::string stackText = StackMessage([&] {
+  const std::string stackText = GroupValueExceptionText([&] {
     groupValue.GetAsDateTime(nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr,
                              nullptr, nullptr, nullptr, nullptr, nullptr, nullptr);
   });
-  LogCapture capture;
   KnxConverterDateTime converter;
-  ULOVALUE value = ValueOf(IVT_DATETIME, before);
-
-  EXPECT_FALSE(converter.FromKnxValue(Dpt19, groupValue, value));
-  EXPECT_EQ(value.GetTime(), before);
-  EXPECT_EQ(capture.Lines(), std::vector<LogLine>{Error(
-                                 "FromKnxValue", "Exception caught during conversion of date and time: " + stackText)});
+  ExpectCaughtOnReceive(converter, Dpt19, IVT_DATETIME, before, groupValue,
+                        "Exception caught during conversion of date and time: " + stackText);
 }
 
 INSTANTIATE_TEST_SUITE_P(Rows, KnxConverterDateTimeWrongSize, testing::ValuesIn(wrongSizeRows), RowName());

@@ -4,33 +4,24 @@
 #include <string>
 #include <vector>
 
+#include "ConverterLines.h"
 #include "FloatRange.h"
 #include "KnxConverterDefault.h"
 #include "KnxConverterFloat.h"
 #include "KnxStack.h"
+#include "KnxTestBytes.h"
 #include "LogCapture.h"
+#include "RangeRows.h"
 #include "UloPlatform.h"
 
 namespace {
 
-using Bytes = std::vector<unsigned char>;
+using KnxTest::Bytes;
+using KnxTest::GroupOf;
+using KnxTest::Holds;
 using Nelmo::KnxConverterDefault;
 using TestSupport::LogCapture;
 using TestSupport::LogLine;
-
-KnxStack::GroupValue GroupOf(const Bytes& bytes, unsigned int bits) {
-  return KnxStack::GroupValue(KnxStack::BinaryData(bytes.data(), static_cast<unsigned int>(bytes.size())), bits);
-}
-
-::testing::AssertionResult Holds(const KnxStack::GroupValue& groupValue, const Bytes& bytes, unsigned int bits) {
-  const KnxStack::BinaryData expected(bytes.data(), static_cast<unsigned int>(bytes.size()));
-  if (groupValue.GetRawData() == expected && groupValue.GetDefinedSize() == bits) {
-    return ::testing::AssertionSuccess();
-  }
-  return ::testing::AssertionFailure() << "holds [" << groupValue.GetRawData().ToString() << "] of "
-                                       << groupValue.GetDefinedSize() << " bits, expected [" << expected.ToString()
-                                       << "] of " << bits << " bits";
-}
 
 // What a group value holds before the conversion; a row that expects these
 // bytes expects the group value to be left alone.
@@ -41,7 +32,7 @@ std::vector<LogLine> ErrorLines(const char* function, const char* text) {
   if (text == nullptr) {
     return {};
   }
-  return {LogLine{ULO_LOG_ERROR, "KnxConverter", function, text}};
+  return {TestSupport::Error(function, text)};
 }
 
 std::string Text(std::size_t length) {
@@ -273,14 +264,8 @@ TEST(KnxConverterClone, OfTheDefaultConverterIsANewDefaultConverter) {
 }
 
 TEST(KnxConverterClone, OfAConverterWithARangeCarriesAnEqualRange) {
-  Nelmo::FloatRange range;
-  range.internalMinimum = -273.0;
-  range.internalMaximum = 670760.0;
-  range.externalMinimum = -273.0;
-  range.externalMaximum = 670760.0;
-  range.scaleFactor = 1.0;
-  range.CalculateScaleFactor();
-  Nelmo::KnxConverterFloat16BitFloat source(range);
+  Nelmo::KnxConverterFloat16BitFloat source(
+      TestSupport::FilledRange<Nelmo::FloatRange>(-273.0, 670760.0, -273.0, 670760.0));
   std::unique_ptr<Nelmo::KnxConverter> clone(source.Clone());
   const auto* typed = dynamic_cast<const Nelmo::KnxConverterFloat16BitFloat*>(clone.get());
   ASSERT_NE(typed, nullptr);

@@ -10,35 +10,37 @@
 #include <string>
 #include <vector>
 
+#include "ConverterChecks.h"
+#include "ConverterLines.h"
 #include "CountedAllocations.h"
 #include "KnxConverterFloat.h"
+#include "KnxTestBytes.h"
 #include "LogCapture.h"
+#include "RangeRows.h"
+#include "RowName.h"
 
 namespace {
 
+using KnxTest::Bytes;
+using KnxTest::BytesOf;
+using KnxTest::GroupOf;
 using Nelmo::FloatIntegerRange;
 using Nelmo::FloatRange;
 using Nelmo::KnxConverter;
-using Bytes = std::vector<unsigned>;
+using TestSupport::Adjusted;
+using TestSupport::ExpectCloneKeepsRange;
+using TestSupport::FilledRange;
+using TestSupport::LogLine;
+using TestSupport::RowName;
+using TestSupport::Trace;
 using Maker = std::unique_ptr<KnxConverter> (*)();
 
 constexpr double Float16Min = -671088.64;
 constexpr double Float16Max = 670760.96;
 constexpr double Float32Max = 3.4028234663852886e38;
 
-KNXDPT Dpt(std::uint8_t bits, std::uint16_t main, std::uint16_t sub) {
-  return KNXDPT{bits, main, sub};
-}
-
 FloatRange MakeFloatRange(double minimum, double maximum) {
-  FloatRange range;
-  range.internalMinimum = minimum;
-  range.internalMaximum = maximum;
-  range.externalMinimum = minimum;
-  range.externalMaximum = maximum;
-  range.scaleFactor = 1.0;
-  range.CalculateScaleFactor();
-  return range;
+  return FilledRange<FloatRange>(minimum, maximum, minimum, maximum);
 }
 
 // The converters of the standard DPT rows, with their ranges.
@@ -67,28 +69,14 @@ std::unique_ptr<KnxConverter> Conv14_x() {
   return std::make_unique<Nelmo::KnxConverterFloat32BitFloat>(MakeFloatRange(-Float32Max, Float32Max));
 }
 
-const KNXDPT Dpt5_001 = Dpt(8, 5, 1);
-const KNXDPT Dpt5_004 = Dpt(8, 5, 4);
-const KNXDPT Dpt5_003 = Dpt(8, 5, 3);
-const KNXDPT Dpt6_001 = Dpt(8, 6, 1);
-const KNXDPT Dpt8_010 = Dpt(16, 8, 10);
-const KNXDPT Dpt9_x = Dpt(16, 9, 0);
-const KNXDPT Dpt9_001 = Dpt(16, 9, 1);
-const KNXDPT Dpt14_x = Dpt(32, 14, 0);
-
-Bytes RawBytes(const KnxStack::GroupValue& groupValue) {
-  const KnxStack::BinaryData& data = groupValue.GetRawData();
-  Bytes bytes;
-  for (unsigned int i = 0; i < data.GetLength(); ++i) {
-    bytes.push_back(data[i]);
-  }
-  return bytes;
-}
-
-KnxStack::GroupValue Telegram(const Bytes& bytes, unsigned int bits) {
-  std::vector<unsigned char> raw(bytes.begin(), bytes.end());
-  return KnxStack::GroupValue(KnxStack::BinaryData(raw.data(), static_cast<unsigned int>(raw.size())), bits);
-}
+const KNXDPT Dpt5_001{8, 5, 1};
+const KNXDPT Dpt5_004{8, 5, 4};
+const KNXDPT Dpt5_003{8, 5, 3};
+const KNXDPT Dpt6_001{8, 6, 1};
+const KNXDPT Dpt8_010{16, 8, 10};
+const KNXDPT Dpt9_x{16, 9, 0};
+const KNXDPT Dpt9_001{16, 9, 1};
+const KNXDPT Dpt14_x{32, 14, 0};
 
 double NaN64() {
   const std::uint64_t bits = 0x7FF8000000000000;
@@ -121,7 +109,7 @@ TEST_P(FloatSend, WritesTheBusBytes) {
   const SendRow& row = GetParam();
   KnxStack::GroupValue groupValue;
   EXPECT_TRUE(row.make()->ToKnxValue(row.dpt, ULOVALUE::Double(row.value, row.type), groupValue));
-  EXPECT_EQ(RawBytes(groupValue), row.bytes);
+  EXPECT_EQ(BytesOf(groupValue), row.bytes);
   EXPECT_EQ(groupValue.GetDefinedSize(), row.size);
 }
 
@@ -192,8 +180,7 @@ const SendRow sendRows[] = {
     {"P14_x_NoneIsNaN", Conv14_x, Dpt14_x, IVT_NONE, 21.5, {0x7F, 0xC0, 0x00, 0x00}, 32},
 };
 
-INSTANTIATE_TEST_SUITE_P(StandardRows, FloatSend, testing::ValuesIn(sendRows),
-                         [](const testing::TestParamInfo<SendRow>& info) { return std::string(info.param.name); });
+INSTANTIATE_TEST_SUITE_P(StandardRows, FloatSend, testing::ValuesIn(sendRows), RowName());
 
 // A float range wider than float's: beyond the largest float the value is
 // rounded to infinity, as IEEE rounding to nearest does.
@@ -201,9 +188,9 @@ TEST(FloatSend, SingleBeyondFloatRangeRoundsToInfinity) {
   Nelmo::KnxConverterFloat32BitFloat converter(MakeFloatRange(-1e300, 1e300));
   KnxStack::GroupValue groupValue;
   EXPECT_TRUE(converter.ToKnxValue(Dpt14_x, ULOVALUE::Double(1e39), groupValue));
-  EXPECT_EQ(RawBytes(groupValue), (Bytes{0x7F, 0x80, 0x00, 0x00}));
+  EXPECT_EQ(BytesOf(groupValue), (Bytes{0x7F, 0x80, 0x00, 0x00}));
   EXPECT_TRUE(converter.ToKnxValue(Dpt14_x, ULOVALUE::Double(-1e39), groupValue));
-  EXPECT_EQ(RawBytes(groupValue), (Bytes{0xFF, 0x80, 0x00, 0x00}));
+  EXPECT_EQ(BytesOf(groupValue), (Bytes{0xFF, 0x80, 0x00, 0x00}));
 }
 
 // Scaled results beyond the bus field keep their low bits.
@@ -211,13 +198,13 @@ TEST(FloatSend, ScaledIntegerKeepsTheFieldsLowBits) {
   KnxStack::GroupValue groupValue;
   Nelmo::KnxConverterFloat8BitUnsigned unsignedByte(FloatIntegerRange(0.0, 1000.0, 0, 1000));
   EXPECT_TRUE(unsignedByte.ToKnxValue(Dpt5_001, ULOVALUE::Double(300.0), groupValue));
-  EXPECT_EQ(RawBytes(groupValue), Bytes{0x2C});
+  EXPECT_EQ(BytesOf(groupValue), Bytes{0x2C});
   Nelmo::KnxConverterFloat8BitSigned signedByte(FloatIntegerRange(-1000.0, 1000.0, -1000, 1000));
   EXPECT_TRUE(signedByte.ToKnxValue(Dpt6_001, ULOVALUE::Double(200.0), groupValue));
-  EXPECT_EQ(RawBytes(groupValue), Bytes{0xC8});
+  EXPECT_EQ(BytesOf(groupValue), Bytes{0xC8});
   Nelmo::KnxConverterFloat16BitSigned signed16(FloatIntegerRange(-100000.0, 100000.0, -100000, 100000));
   EXPECT_TRUE(signed16.ToKnxValue(Dpt8_010, ULOVALUE::Double(-40000.0), groupValue));
-  EXPECT_EQ(RawBytes(groupValue), (Bytes{0x63, 0xC0}));
+  EXPECT_EQ(BytesOf(groupValue), (Bytes{0x63, 0xC0}));
 }
 
 // --- Receiving ---------------------------------------------------------------
@@ -237,7 +224,7 @@ class FloatReceive : public testing::TestWithParam<ReceiveRow> {};
 TEST_P(FloatReceive, ReadsTheBusBytes) {
   const ReceiveRow& row = GetParam();
   ULOVALUE value = ULOVALUE::Double(-1.0);
-  EXPECT_TRUE(row.make()->FromKnxValue(row.dpt, Telegram(row.bytes, row.size), value));
+  EXPECT_TRUE(row.make()->FromKnxValue(row.dpt, GroupOf(row.bytes, row.size), value));
   EXPECT_EQ(value.GetType(), row.type);
   if (std::isnan(row.value)) {
     EXPECT_TRUE(std::isnan(value.GetDouble()));
@@ -293,18 +280,17 @@ const ReceiveRow receiveRows[] = {
     {"P14_x_OtherNaNIsNone", Conv14_x, Dpt14_x, {0xFF, 0xFF, 0xFF, 0xFF}, 32, NaN64(), IVT_NONE},
 };
 
-INSTANTIATE_TEST_SUITE_P(StandardRows, FloatReceive, testing::ValuesIn(receiveRows),
-                         [](const testing::TestParamInfo<ReceiveRow>& info) { return std::string(info.param.name); });
+INSTANTIATE_TEST_SUITE_P(StandardRows, FloatReceive, testing::ValuesIn(receiveRows), RowName());
 
 TEST(FloatReceive, ReceivedPercentIsExactlyTheScaledByte) {
   ULOVALUE value = ULOVALUE::Double(0.0);
-  ASSERT_TRUE(Conv5_001()->FromKnxValue(Dpt5_001, Telegram({0x80}, 8), value));
+  ASSERT_TRUE(Conv5_001()->FromKnxValue(Dpt5_001, GroupOf({0x80}, 8), value));
   EXPECT_EQ(value.GetDouble(), 50.196078431372555);
 }
 
 TEST(FloatReceive, ReceivedNaNKeepsTheNaNPayload) {
   ULOVALUE value = ULOVALUE::Double(1.0);
-  ASSERT_TRUE(Conv14_x()->FromKnxValue(Dpt14_x, Telegram({0x7F, 0xC0, 0x00, 0x00}, 32), value));
+  ASSERT_TRUE(Conv14_x()->FromKnxValue(Dpt14_x, GroupOf({0x7F, 0xC0, 0x00, 0x00}, 32), value));
   EXPECT_EQ(BitsOf(value.GetDouble()), 0x7FF8000000000000u);
 }
 
@@ -324,7 +310,7 @@ TEST_P(ReceiveClamp, OnlyTheUnsignedByteClamps) {
   TestSupport::LogCapture capture(ULO_LOG_INFO);
   ULOVALUE value = ULOVALUE::Double(0.0);
   EXPECT_TRUE(
-      row.make()->FromKnxValue(Dpt(static_cast<std::uint8_t>(row.size), 5, 1), Telegram(row.bytes, row.size), value));
+      row.make()->FromKnxValue(KNXDPT{static_cast<std::uint8_t>(row.size), 5, 1}, GroupOf(row.bytes, row.size), value));
   EXPECT_DOUBLE_EQ(value.GetDouble(), row.value);
   EXPECT_TRUE(capture.Lines().empty());
 }
@@ -353,21 +339,13 @@ const ClampRow clampRows[] = {
      128.0},
 };
 
-INSTANTIATE_TEST_SUITE_P(OutsideTheInternalRange, ReceiveClamp, testing::ValuesIn(clampRows),
-                         [](const testing::TestParamInfo<ClampRow>& info) { return std::string(info.param.name); });
+INSTANTIATE_TEST_SUITE_P(OutsideTheInternalRange, ReceiveClamp, testing::ValuesIn(clampRows), RowName());
 
 // The floating-point members clamp with their range but never scale on send;
 // on receive only the 2-octet member scales back. A range whose external
 // side is ten times its internal side shows which direction uses it.
 FloatRange TenfoldRange() {
-  FloatRange range;
-  range.internalMinimum = 0.0;
-  range.internalMaximum = 100.0;
-  range.externalMinimum = 0.0;
-  range.externalMaximum = 1000.0;
-  range.scaleFactor = 1.0;
-  range.CalculateScaleFactor();
-  return range;
+  return FilledRange<FloatRange>(0.0, 100.0, 0.0, 1000.0);
 }
 
 std::unique_ptr<KnxConverter> Tenfold16() {
@@ -393,10 +371,10 @@ TEST_P(FloatTenfoldRange, SendsUnscaledAndReceivesAsTheMemberDoes) {
   const TenfoldRow& row = GetParam();
   KnxStack::GroupValue groupValue;
   EXPECT_TRUE(row.make()->ToKnxValue(row.dpt, ULOVALUE::Double(row.sent), groupValue));
-  EXPECT_EQ(RawBytes(groupValue), row.bytes);
+  EXPECT_EQ(BytesOf(groupValue), row.bytes);
   EXPECT_EQ(groupValue.GetDefinedSize(), row.size);
   ULOVALUE value = ULOVALUE::Double(-1.0);
-  EXPECT_TRUE(row.make()->FromKnxValue(row.dpt, Telegram(row.bytes, row.size), value));
+  EXPECT_TRUE(row.make()->FromKnxValue(row.dpt, GroupOf(row.bytes, row.size), value));
   EXPECT_EQ(value.GetDouble(), row.received);
 }
 
@@ -407,12 +385,9 @@ const TenfoldRow tenfoldRows[] = {
     {"P14_ClampedTo100", Tenfold32, Dpt14_x, 150.0, {0x42, 0xC8, 0x00, 0x00}, 32, 100.0},
 };
 
-INSTANTIATE_TEST_SUITE_P(InternalAndExternalDiffer, FloatTenfoldRange, testing::ValuesIn(tenfoldRows),
-                         [](const testing::TestParamInfo<TenfoldRow>& info) { return std::string(info.param.name); });
+INSTANTIATE_TEST_SUITE_P(InternalAndExternalDiffer, FloatTenfoldRange, testing::ValuesIn(tenfoldRows), RowName());
 
 // --- Messages ----------------------------------------------------------------
-
-using TestSupport::LogLine;
 
 struct MessageRow {
   const char* name;
@@ -432,76 +407,69 @@ TEST_P(FloatSendMessages, TraceAndAdjustment) {
   EXPECT_EQ(capture.Lines(), row.lines);
 }
 
-LogLine Trace(const char* text) {
-  return {ULO_LOG_TRACE, "KnxConverter", "ToKnxValue", text};
-}
-LogLine Notice(const char* text) {
-  return {ULO_LOG_INFO, "KnxConverter", "ToKnxValue", text};
-}
-
 const MessageRow sendMessageRows[] = {
-    {"P5_001_InRange", Conv5_001, Dpt5_001, 50.0, {Trace("DPT is used. DPT = 5.1 ivt=3 val=50")}},
+    {"P5_001_InRange", Conv5_001, Dpt5_001, 50.0, {Trace("ToKnxValue", "DPT is used. DPT = 5.1 ivt=3 val=50")}},
     {"P5_001_AboveMax",
      Conv5_001,
      Dpt5_001,
      120.0,
-     {Trace("DPT is used. DPT = 5.1 ivt=3 val=120"),
-      Notice("The internal value of DPT=5.1, ivt=3 has been adjusted from 120 to 100 before conversion.")}},
+     {Trace("ToKnxValue", "DPT is used. DPT = 5.1 ivt=3 val=120"),
+      Adjusted("The internal value of DPT=5.1, ivt=3 has been adjusted from 120 to 100 before conversion.")}},
     {"P5_003_BelowMin",
      Conv5_003,
      Dpt5_003,
      -0.5,
-     {Trace("DPT is used. DPT = 5.3 ivt=3 val=-0.5"),
-      Notice("The internal value of DPT=5.3, ivt=3 has been adjusted from -0.5 to 0 before conversion.")}},
+     {Trace("ToKnxValue", "DPT is used. DPT = 5.3 ivt=3 val=-0.5"),
+      Adjusted("The internal value of DPT=5.3, ivt=3 has been adjusted from -0.5 to 0 before conversion.")}},
     {"P6_001_BelowMin",
      Conv6_001,
      Dpt6_001,
      -200.25,
-     {Trace("DPT is used. DPT = 6.1 ivt=3 val=-200.25"),
-      Notice("The internal value of DPT=6.1, ivt=3 has been adjusted from -200.25 to -128 before conversion.")}},
+     {Trace("ToKnxValue", "DPT is used. DPT = 6.1 ivt=3 val=-200.25"),
+      Adjusted("The internal value of DPT=6.1, ivt=3 has been adjusted from -200.25 to -128 before conversion.")}},
     {"P8_010_AboveMax",
      Conv8_010,
      Dpt8_010,
      1000.25,
-     {Trace("DPT is used. DPT = 8.10 ivt=3 val=1000.25"),
-      Notice("The internal value of DPT=8.10, ivt=3 has been adjusted from 1000.25 to 327.67 before conversion.")}},
+     {Trace("ToKnxValue", "DPT is used. DPT = 8.10 ivt=3 val=1000.25"),
+      Adjusted("The internal value of DPT=8.10, ivt=3 has been adjusted from 1000.25 to 327.67 before conversion.")}},
     {"P9_x_AboveMax",
      Conv9_x,
      Dpt9_x,
      700000.0,
-     {Trace("DPT is used. DPT = 9.0 ivt=3 val=700000"),
-      Notice("The internal value of DPT=9.0, ivt=3 has been adjusted from 700000 to 670761 before conversion.")}},
+     {Trace("ToKnxValue", "DPT is used. DPT = 9.0 ivt=3 val=700000"),
+      Adjusted("The internal value of DPT=9.0, ivt=3 has been adjusted from 700000 to 670761 before conversion.")}},
     {"P9_x_BelowMin",
      Conv9_x,
      Dpt9_x,
      -1234567.0,
-     {Trace("DPT is used. DPT = 9.0 ivt=3 val=-1234567"),
-      Notice("The internal value of DPT=9.0, ivt=3 has been adjusted from -1.23457e+06 to -671089 before "
-             "conversion.")}},
-    {"P9_001_InRange", Conv9_001, Dpt9_001, 21.5, {Trace("DPT is used. DPT = 9.1 ivt=3 val=21.5")}},
+     {Trace("ToKnxValue", "DPT is used. DPT = 9.0 ivt=3 val=-1234567"),
+      Adjusted("The internal value of DPT=9.0, ivt=3 has been adjusted from -1.23457e+06 to -671089 before "
+               "conversion.")}},
+    {"P9_001_InRange", Conv9_001, Dpt9_001, 21.5, {Trace("ToKnxValue", "DPT is used. DPT = 9.1 ivt=3 val=21.5")}},
     {"P9_001_BelowMin",
      Conv9_001,
      Dpt9_001,
      -300.0,
-     {Trace("DPT is used. DPT = 9.1 ivt=3 val=-300"),
-      Notice("The internal value of DPT=9.1, ivt=3 has been adjusted from -300 to -273 before conversion.")}},
+     {Trace("ToKnxValue", "DPT is used. DPT = 9.1 ivt=3 val=-300"),
+      Adjusted("The internal value of DPT=9.1, ivt=3 has been adjusted from -300 to -273 before conversion.")}},
     {"P14_x_AboveMax",
      Conv14_x,
      Dpt14_x,
      1e39,
-     {Trace("DPT is used. DPT = 14.0 ivt=3 val=1e+39"),
-      Notice("The internal value of DPT=14.0, ivt=3 has been adjusted from 1e+39 to 3.40282e+38 before conversion.")}},
+     {Trace("ToKnxValue", "DPT is used. DPT = 14.0 ivt=3 val=1e+39"),
+      Adjusted(
+          "The internal value of DPT=14.0, ivt=3 has been adjusted from 1e+39 to 3.40282e+38 before conversion.")}},
 };
 
-INSTANTIATE_TEST_SUITE_P(StandardRows, FloatSendMessages, testing::ValuesIn(sendMessageRows),
-                         [](const testing::TestParamInfo<MessageRow>& info) { return std::string(info.param.name); });
+INSTANTIATE_TEST_SUITE_P(StandardRows, FloatSendMessages, testing::ValuesIn(sendMessageRows), RowName());
 
 TEST(FloatSendMessages, AdjustmentAloneAtLevelOne) {
   TestSupport::LogCapture capture(ULO_LOG_INFO);
   KnxStack::GroupValue groupValue;
   EXPECT_TRUE(Conv5_001()->ToKnxValue(Dpt5_001, ULOVALUE::Double(120.0), groupValue));
   const std::vector<LogLine> expected{
-      Notice("The internal value of DPT=5.1, ivt=3 has been adjusted from 120 to 100 before conversion.")};
+      Adjusted("The internal value of DPT=5.1, ivt=3 has been adjusted from 120 to 100 before conversion.")};
   EXPECT_EQ(capture.Lines(), expected);
 }
 
@@ -520,8 +488,8 @@ TEST_P(FloatReceiveMessages, Trace) {
   const ReceiveMessageRow& row = GetParam();
   TestSupport::LogCapture capture;
   ULOVALUE value = ULOVALUE::Double(0.0);
-  EXPECT_TRUE(row.make()->FromKnxValue(row.dpt, Telegram(row.bytes, row.size), value));
-  const std::vector<LogLine> expected{{ULO_LOG_TRACE, "KnxConverter", "FromKnxValue", row.text}};
+  EXPECT_TRUE(row.make()->FromKnxValue(row.dpt, GroupOf(row.bytes, row.size), value));
+  const std::vector<LogLine> expected{Trace("FromKnxValue", row.text)};
   EXPECT_EQ(capture.Lines(), expected);
 }
 
@@ -538,10 +506,7 @@ const ReceiveMessageRow receiveMessageRows[] = {
      "DPT is used. DPT = 14.0 grp.size=32 grp.val=41 AC 00 00"},
 };
 
-INSTANTIATE_TEST_SUITE_P(StandardRows, FloatReceiveMessages, testing::ValuesIn(receiveMessageRows),
-                         [](const testing::TestParamInfo<ReceiveMessageRow>& info) {
-                           return std::string(info.param.name);
-                         });
+INSTANTIATE_TEST_SUITE_P(StandardRows, FloatReceiveMessages, testing::ValuesIn(receiveMessageRows), RowName());
 
 // --- Refusals ----------------------------------------------------------------
 
@@ -557,9 +522,9 @@ class FloatRefusal : public testing::TestWithParam<RefusalRow> {};
 TEST_P(FloatRefusal, LeavesTheGroupValueUntouched) {
   const RefusalRow& row = GetParam();
   TestSupport::LogCapture capture(ULO_LOG_INFO);
-  KnxStack::GroupValue groupValue = Telegram({0xAB, 0xCD}, 16);
+  KnxStack::GroupValue groupValue = GroupOf({0xAB, 0xCD}, 16);
   EXPECT_FALSE(row.make()->ToKnxValue(row.dpt, ULOVALUE::Double(50.0, row.type), groupValue));
-  EXPECT_EQ(RawBytes(groupValue), (Bytes{0xAB, 0xCD}));
+  EXPECT_EQ(BytesOf(groupValue), (Bytes{0xAB, 0xCD}));
   EXPECT_EQ(groupValue.GetDefinedSize(), 16u);
   EXPECT_TRUE(capture.Lines().empty());
 }
@@ -572,8 +537,7 @@ const RefusalRow refusalRows[] = {
     {"P5_004_Double1005", Conv5_004, Dpt5_004, IVT_DOUBLE_1005},
 };
 
-INSTANTIATE_TEST_SUITE_P(WrongValueType, FloatRefusal, testing::ValuesIn(refusalRows),
-                         [](const testing::TestParamInfo<RefusalRow>& info) { return std::string(info.param.name); });
+INSTANTIATE_TEST_SUITE_P(WrongValueType, FloatRefusal, testing::ValuesIn(refusalRows), RowName());
 
 // --- Exceptions of the group value pass through ------------------------------
 
@@ -590,7 +554,7 @@ class FloatGroupValueException : public testing::TestWithParam<ThrowRow> {};
 TEST_P(FloatGroupValueException, PassesThroughFromKnxValue) {
   const ThrowRow& row = GetParam();
   ULOVALUE value = ULOVALUE::Double(7.0);
-  EXPECT_THROW(row.make()->FromKnxValue(row.dpt, Telegram(row.bytes, row.size), value), KnxStack::GroupValueException);
+  EXPECT_THROW(row.make()->FromKnxValue(row.dpt, GroupOf(row.bytes, row.size), value), KnxStack::GroupValueException);
   EXPECT_EQ(value.GetDouble(), 7.0);
   EXPECT_EQ(value.GetType(), IVT_DOUBLE);
 }
@@ -606,31 +570,17 @@ const ThrowRow throwRows[] = {
     {"P14_x_ShortPayload", Conv14_x, Dpt14_x, {0x41, 0xAC, 0x00}, 32},
 };
 
-INSTANTIATE_TEST_SUITE_P(WrongSize, FloatGroupValueException, testing::ValuesIn(throwRows),
-                         [](const testing::TestParamInfo<ThrowRow>& info) { return std::string(info.param.name); });
+INSTANTIATE_TEST_SUITE_P(WrongSize, FloatGroupValueException, testing::ValuesIn(throwRows), RowName());
 
 // A range wider than the 2-octet float lets a value through that the stack
 // cannot encode; its exception reaches the caller.
 TEST(FloatGroupValueException, PassesThroughToKnxValue) {
   Nelmo::KnxConverterFloat16BitFloat converter(MakeFloatRange(-1e6, 1e6));
-  KnxStack::GroupValue groupValue = Telegram({0xAB, 0xCD}, 16);
+  KnxStack::GroupValue groupValue = GroupOf({0xAB, 0xCD}, 16);
   EXPECT_THROW(converter.ToKnxValue(Dpt9_x, ULOVALUE::Double(800000.0), groupValue), KnxStack::GroupValueException);
 }
 
 // --- Clone -------------------------------------------------------------------
-
-template <typename Converter>
-void ExpectCloneKeepsRange(const Converter& source) {
-  std::unique_ptr<KnxConverter> clone(source.Clone());
-  const auto* copy = dynamic_cast<const Converter*>(clone.get());
-  ASSERT_NE(copy, nullptr);
-  EXPECT_NE(copy, &source);
-  EXPECT_EQ(copy->GetRange().internalMinimum, source.GetRange().internalMinimum);
-  EXPECT_EQ(copy->GetRange().internalMaximum, source.GetRange().internalMaximum);
-  EXPECT_EQ(copy->GetRange().externalMinimum, source.GetRange().externalMinimum);
-  EXPECT_EQ(copy->GetRange().externalMaximum, source.GetRange().externalMaximum);
-  EXPECT_EQ(copy->GetRange().scaleFactor, source.GetRange().scaleFactor);
-}
 
 TEST(FloatClone, KeepsTheRangeAndLeavesTheSourceUsable) {
   Nelmo::KnxConverterFloat8BitUnsigned angle(FloatIntegerRange(0.0, 360.0, 0, 255));
@@ -648,9 +598,9 @@ TEST(FloatClone, KeepsTheRangeAndLeavesTheSourceUsable) {
 
   KnxStack::GroupValue groupValue;
   EXPECT_TRUE(angle.ToKnxValue(Dpt5_003, ULOVALUE::Double(180.0), groupValue));
-  EXPECT_EQ(RawBytes(groupValue), Bytes{0x80});
+  EXPECT_EQ(BytesOf(groupValue), Bytes{0x80});
   EXPECT_TRUE(temperature.ToKnxValue(Dpt9_001, ULOVALUE::Double(-300.0), groupValue));
-  EXPECT_EQ(RawBytes(groupValue), (Bytes{0xA1, 0x56}));
+  EXPECT_EQ(BytesOf(groupValue), (Bytes{0xA1, 0x56}));
 }
 
 // --- No allocation while logging is off --------------------------------------

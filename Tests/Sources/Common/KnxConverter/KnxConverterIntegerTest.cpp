@@ -25,39 +25,46 @@ constexpr std::uint64_t UInt64Max = std::numeric_limits<std::uint64_t>::max();
 
 // The ranges of the standard DPT rows.
 Nelmo::IntegerRange Dpt6Range() {
-  return IntegerRangeOf(-128, 127, -128, 127);
+  return FilledRange<IntegerRange>(-128, 127, -128, 127);
 }
 Nelmo::IntegerRange Dpt7Range() {
-  return IntegerRangeOf(0, 65535, 0, 65535);
+  return FilledRange<IntegerRange>(0, 65535, 0, 65535);
 }
 Nelmo::IntegerRange Dpt8Range() {
-  return IntegerRangeOf(-32768, 32767, -32768, 32767);
+  return FilledRange<IntegerRange>(-32768, 32767, -32768, 32767);
 }
 Nelmo::LongIntegerRange Dpt12Range() {
-  return LongIntegerRangeOf(0, 4294967295LL, 0, 4294967295LL);
+  return FilledRange<LongIntegerRange>(0, 4294967295LL, 0, 4294967295LL);
 }
 Nelmo::IntegerRange Dpt13Range() {
-  return IntegerRangeOf(Int32Min, Int32Max, Int32Min, Int32Max);
+  return FilledRange<IntegerRange>(Int32Min, Int32Max, Int32Min, Int32Max);
 }
 Nelmo::LongIntegerRange Dpt232Range() {
-  return LongIntegerRangeOf(0, 16777215, 0, 16777215);
+  return FilledRange<LongIntegerRange>(0, 16777215, 0, 16777215);
 }
 Nelmo::UnsignedLongIntegerRange Dpt242Range() {
-  return UnsignedLongIntegerRangeOf(0, UInt48Max, 0, UInt48Max);
+  return FilledRange<UnsignedLongIntegerRange>(0, UInt48Max, 0, UInt48Max);
 }
 
-const KNXDPT Dpt5 = DptOf(8, 5, 0);
-const KNXDPT Dpt6 = DptOf(8, 6, 1);
-const KNXDPT Dpt7 = DptOf(16, 7, 1);
-const KNXDPT Dpt8 = DptOf(16, 8, 1);
-const KNXDPT Dpt12 = DptOf(32, 12, 1);
-const KNXDPT Dpt13 = DptOf(32, 13, 1);
-const KNXDPT Dpt232 = DptOf(24, 232, 600);
-const KNXDPT Dpt242 = DptOf(48, 242, 600);
+const KNXDPT Dpt5{8, 5, 0};
+const KNXDPT Dpt6{8, 6, 1};
+const KNXDPT Dpt7{16, 7, 1};
+const KNXDPT Dpt8{16, 8, 1};
+const KNXDPT Dpt12{32, 12, 1};
+const KNXDPT Dpt13{32, 13, 1};
+const KNXDPT Dpt232{24, 232, 600};
+const KNXDPT Dpt242{48, 242, 600};
 
-struct SendRow {
-  ULOVALUE value;
-  Bytes bytes;
+// The converters of the standard DPT rows, each with its row's range.
+struct StandardConverters {
+  Nelmo::KnxConverterByte8BitUnsigned byte;
+  Nelmo::KnxConverterInteger8BitSigned signed8{Dpt6Range()};
+  Nelmo::KnxConverterInteger16BitUnsigned unsigned16{Dpt7Range()};
+  Nelmo::KnxConverterInteger16BitSigned signed16{Dpt8Range()};
+  Nelmo::KnxConverterInteger24BitUnsigned unsigned24{Dpt232Range()};
+  Nelmo::KnxConverterInteger32BitUnsigned unsigned32{Dpt12Range()};
+  Nelmo::KnxConverterInteger32BitSigned signed32{Dpt13Range()};
+  Nelmo::KnxConverterInteger48BitUnsigned unsigned48{Dpt242Range()};
 };
 
 template <typename Number>
@@ -65,15 +72,6 @@ struct ReceiveRow {
   Bytes bytes;
   Number value;
 };
-
-void ExpectSends(KnxConverter& converter, const KNXDPT& dpt, const std::vector<SendRow>& rows, unsigned int bits) {
-  for (const SendRow& row : rows) {
-    SCOPED_TRACE("value " + row.value.ToString());
-    KnxStack::GroupValue groupValue;
-    EXPECT_TRUE(converter.ToKnxValue(dpt, row.value, groupValue));
-    EXPECT_TRUE(Holds(groupValue, row.bytes, bits));
-  }
-}
 
 // Receives each row's bytes into a value of the row's type; read() gives
 // the payload that the converter writes.
@@ -253,7 +251,7 @@ TEST(KnxConverterInteger32BitUnsigned, ReceivesUnsigned) {
 }
 
 TEST(KnxConverterInteger32BitUnsigned, ClampsIntoANarrowerRange) {
-  Nelmo::KnxConverterInteger32BitUnsigned converter(LongIntegerRangeOf(10, 1000, 10, 1000));
+  Nelmo::KnxConverterInteger32BitUnsigned converter(FilledRange<LongIntegerRange>(10, 1000, 10, 1000));
   ExpectSends(converter, Dpt12,
               {
                   {ULOVALUE::UInt32(10), {0x00, 0x00, 0x00, 0x0A}},
@@ -293,7 +291,7 @@ TEST(KnxConverterInteger32BitSigned, ReceivesTwosComplement) {
 }
 
 TEST(KnxConverterInteger32BitSigned, ClampsIntoANarrowerRange) {
-  Nelmo::KnxConverterInteger32BitSigned converter(IntegerRangeOf(-1000, 1000, -1000, 1000));
+  Nelmo::KnxConverterInteger32BitSigned converter(FilledRange<IntegerRange>(-1000, 1000, -1000, 1000));
   ExpectSends(converter, Dpt13,
               {
                   {ULOVALUE::Int32(-1001), {0xFF, 0xFF, 0xFC, 0x18}},
@@ -347,15 +345,15 @@ TEST(KnxConverterInteger48BitUnsigned, ReceivesMalformedBuffersWithoutOverrun) {
 // way out, and the received field is scaled back without clamping.
 
 TEST(IntegerConverterScaling, TheScaledNumberKeepsOnlyTheFieldsLowBits) {
-  Nelmo::KnxConverterInteger8BitSigned signed8(IntegerRangeOf(0, 100, 0, 255));
-  Nelmo::KnxConverterInteger16BitUnsigned unsigned16(IntegerRangeOf(0, 10, 0, 100000));
-  Nelmo::KnxConverterInteger16BitUnsigned unsigned16Shifted(IntegerRangeOf(-10, 10, -20, 20));
-  Nelmo::KnxConverterInteger16BitSigned signed16(IntegerRangeOf(-10, 10, -100000, 100000));
-  Nelmo::KnxConverterInteger24BitUnsigned unsigned24Negative(LongIntegerRangeOf(0, 10, -10, 0));
-  Nelmo::KnxConverterInteger24BitUnsigned unsigned24Wide(LongIntegerRangeOf(0, 100, 0, 33554432));
-  Nelmo::KnxConverterInteger32BitUnsigned unsigned32Negative(LongIntegerRangeOf(0, 10, -10, 0));
-  Nelmo::KnxConverterInteger32BitUnsigned unsigned32Wide(LongIntegerRangeOf(0, 10, 0, 42949672970LL));
-  Nelmo::KnxConverterInteger48BitUnsigned unsigned48Wide(UnsignedLongIntegerRangeOf(0, 1, 0, UInt48Max + 6));
+  Nelmo::KnxConverterInteger8BitSigned signed8(FilledRange<IntegerRange>(0, 100, 0, 255));
+  Nelmo::KnxConverterInteger16BitUnsigned unsigned16(FilledRange<IntegerRange>(0, 10, 0, 100000));
+  Nelmo::KnxConverterInteger16BitUnsigned unsigned16Shifted(FilledRange<IntegerRange>(-10, 10, -20, 20));
+  Nelmo::KnxConverterInteger16BitSigned signed16(FilledRange<IntegerRange>(-10, 10, -100000, 100000));
+  Nelmo::KnxConverterInteger24BitUnsigned unsigned24Negative(FilledRange<LongIntegerRange>(0, 10, -10, 0));
+  Nelmo::KnxConverterInteger24BitUnsigned unsigned24Wide(FilledRange<LongIntegerRange>(0, 100, 0, 33554432));
+  Nelmo::KnxConverterInteger32BitUnsigned unsigned32Negative(FilledRange<LongIntegerRange>(0, 10, -10, 0));
+  Nelmo::KnxConverterInteger32BitUnsigned unsigned32Wide(FilledRange<LongIntegerRange>(0, 10, 0, 42949672970LL));
+  Nelmo::KnxConverterInteger48BitUnsigned unsigned48Wide(FilledRange<UnsignedLongIntegerRange>(0, 1, 0, UInt48Max + 6));
   struct Row {
     const char* name;
     KnxConverter* converter;
@@ -385,14 +383,14 @@ TEST(IntegerConverterScaling, TheScaledNumberKeepsOnlyTheFieldsLowBits) {
 }
 
 TEST(IntegerConverterScaling, TheReceivedFieldIsScaledBackWithoutClamping) {
-  Nelmo::KnxConverterInteger8BitSigned signed8(IntegerRangeOf(0, 100, 0, 255));
-  Nelmo::KnxConverterInteger8BitSigned signed8Narrow(IntegerRangeOf(-10, 10, -100, 100));
-  Nelmo::KnxConverterInteger16BitUnsigned unsigned16(IntegerRangeOf(-100, 100, 0, 200));
-  Nelmo::KnxConverterInteger16BitSigned signed16(IntegerRangeOf(-10, 10, -100, 100));
-  Nelmo::KnxConverterInteger24BitUnsigned unsigned24(LongIntegerRangeOf(-10, 0, 0, 10));
-  Nelmo::KnxConverterInteger32BitUnsigned unsigned32(LongIntegerRangeOf(0, 100, 0, 1000));
-  Nelmo::KnxConverterInteger32BitSigned signed32(IntegerRangeOf(-1, 1, -1000, 1000));
-  Nelmo::KnxConverterInteger48BitUnsigned unsigned48(UnsignedLongIntegerRangeOf(0, 255, 0, 65535));
+  Nelmo::KnxConverterInteger8BitSigned signed8(FilledRange<IntegerRange>(0, 100, 0, 255));
+  Nelmo::KnxConverterInteger8BitSigned signed8Narrow(FilledRange<IntegerRange>(-10, 10, -100, 100));
+  Nelmo::KnxConverterInteger16BitUnsigned unsigned16(FilledRange<IntegerRange>(-100, 100, 0, 200));
+  Nelmo::KnxConverterInteger16BitSigned signed16(FilledRange<IntegerRange>(-10, 10, -100, 100));
+  Nelmo::KnxConverterInteger24BitUnsigned unsigned24(FilledRange<LongIntegerRange>(-10, 0, 0, 10));
+  Nelmo::KnxConverterInteger32BitUnsigned unsigned32(FilledRange<LongIntegerRange>(0, 100, 0, 1000));
+  Nelmo::KnxConverterInteger32BitSigned signed32(FilledRange<IntegerRange>(-1, 1, -1000, 1000));
+  Nelmo::KnxConverterInteger48BitUnsigned unsigned48(FilledRange<UnsignedLongIntegerRange>(0, 255, 0, 65535));
   struct Row {
     const char* name;
     KnxConverter* converter;
@@ -426,14 +424,7 @@ TEST(IntegerConverterScaling, TheReceivedFieldIsScaledBackWithoutClamping) {
 // Messages
 
 TEST(IntegerConverterMessages, EachConversionIsTracedAtLevel0) {
-  Nelmo::KnxConverterByte8BitUnsigned byte;
-  Nelmo::KnxConverterInteger8BitSigned signed8(Dpt6Range());
-  Nelmo::KnxConverterInteger16BitUnsigned unsigned16(Dpt7Range());
-  Nelmo::KnxConverterInteger16BitSigned signed16(Dpt8Range());
-  Nelmo::KnxConverterInteger24BitUnsigned unsigned24(Dpt232Range());
-  Nelmo::KnxConverterInteger32BitUnsigned unsigned32(Dpt12Range());
-  Nelmo::KnxConverterInteger32BitSigned signed32(Dpt13Range());
-  Nelmo::KnxConverterInteger48BitUnsigned unsigned48(Dpt242Range());
+  StandardConverters standard;
   struct Row {
     KnxConverter* converter;
     KNXDPT dpt;
@@ -443,49 +434,49 @@ TEST(IntegerConverterMessages, EachConversionIsTracedAtLevel0) {
     std::string receiveTrace;
   };
   const Row rows[] = {
-      {&byte,
-       DptOf(8, 5, 10),
+      {&standard.byte,
+       KNXDPT{8, 5, 10},
        ULOVALUE::Byte(200),
        "DPT is used. DPT = 5.10 ivt=6 val=200",
        {0xC8},
        "DPT is used. DPT = 5.10 grp.size=8 grp.val=C8"},
-      {&signed8,
+      {&standard.signed8,
        Dpt6,
        ULOVALUE::Int32(-1),
        "DPT is used. DPT = 6.1 ivt=4 val=-1",
        {0xFF},
        "DPT is used. DPT = 6.1 grp.size=8 grp.val=FF"},
-      {&unsigned16,
+      {&standard.unsigned16,
        Dpt7,
        ULOVALUE::UInt16(4660),
        "DPT is used. DPT = 7.1 ivt=7 val=4660",
        {0x12, 0x34},
        "DPT is used. DPT = 7.1 grp.size=16 grp.val=12 34"},
-      {&signed16,
-       DptOf(16, 8, 0),
+      {&standard.signed16,
+       KNXDPT{16, 8, 0},
        ULOVALUE::Int32(-2),
        "DPT is used. DPT = 8.0 ivt=4 val=-2",
        {0xFF, 0xFE},
        "DPT is used. DPT = 8.0 grp.size=16 grp.val=FF FE"},
-      {&unsigned24,
+      {&standard.unsigned24,
        Dpt232,
        ULOVALUE::UInt32(16777215),
        "DPT is used. DPT = 232.600 ivt=8 val=16777215",
        {0xFF, 0xFF, 0xFF},
        "DPT is used. DPT = 232.600 grp.size=24 grp.val=FF FF FF"},
-      {&unsigned32,
+      {&standard.unsigned32,
        Dpt12,
        ULOVALUE::UInt32(UInt32Max),
        "DPT is used. DPT = 12.1 ivt=8 val=4294967295",
        {0xFF, 0xFF, 0xFF, 0xFF},
        "DPT is used. DPT = 12.1 grp.size=32 grp.val=FF FF FF FF"},
-      {&signed32,
-       DptOf(32, 13, 100),
+      {&standard.signed32,
+       KNXDPT{32, 13, 100},
        ULOVALUE::TimeSpan(-60),
        "DPT is used. DPT = 13.100 ivt=14 val=-60",
        {0xFF, 0xFF, 0xFF, 0xC4},
        "DPT is used. DPT = 13.100 grp.size=32 grp.val=FF FF FF C4"},
-      {&unsigned48,
+      {&standard.unsigned48,
        Dpt242,
        ULOVALUE::UInt64(1108152157446ULL),
        "DPT is used. DPT = 242.600 ivt=9 val=1108152157446",
@@ -515,11 +506,11 @@ TEST(IntegerConverterMessages, EachConversionIsTracedAtLevel0) {
 TEST(IntegerConverterMessages, AClampedValueIsReportedAtLevel1) {
   Nelmo::KnxConverterInteger8BitSigned signed8(Dpt6Range());
   Nelmo::KnxConverterInteger16BitUnsigned unsigned16(Dpt7Range());
-  Nelmo::KnxConverterInteger16BitUnsigned unsigned16Signed(IntegerRangeOf(-100, 100, 0, 200));
+  Nelmo::KnxConverterInteger16BitUnsigned unsigned16Signed(FilledRange<IntegerRange>(-100, 100, 0, 200));
   Nelmo::KnxConverterInteger16BitSigned signed16(Dpt8Range());
   Nelmo::KnxConverterInteger24BitUnsigned unsigned24(Dpt232Range());
-  Nelmo::KnxConverterInteger32BitUnsigned unsigned32(LongIntegerRangeOf(10, 1000, 10, 1000));
-  Nelmo::KnxConverterInteger32BitSigned signed32(IntegerRangeOf(-1000, 1000, -1000, 1000));
+  Nelmo::KnxConverterInteger32BitUnsigned unsigned32(FilledRange<LongIntegerRange>(10, 1000, 10, 1000));
+  Nelmo::KnxConverterInteger32BitSigned signed32(FilledRange<IntegerRange>(-1000, 1000, -1000, 1000));
   Nelmo::KnxConverterInteger48BitUnsigned unsigned48(Dpt242Range());
   struct Row {
     KnxConverter* converter;
@@ -668,39 +659,25 @@ TEST(IntegerConverterMessages, NothingIsWrittenWhileLoggingIsOff) {
 // Clamped values included: the adjustment is composed only for an active
 // level, and the group values keep their few bytes inline.
 TEST(IntegerConverterMessages, NothingIsAllocatedWhileLoggingIsOff) {
-  Nelmo::KnxConverterByte8BitUnsigned byte;
-  Nelmo::KnxConverterInteger8BitSigned signed8(Dpt6Range());
-  Nelmo::KnxConverterInteger16BitUnsigned unsigned16(Dpt7Range());
-  Nelmo::KnxConverterInteger16BitSigned signed16(Dpt8Range());
-  Nelmo::KnxConverterInteger24BitUnsigned unsigned24(Dpt232Range());
-  Nelmo::KnxConverterInteger32BitUnsigned unsigned32(Dpt12Range());
-  Nelmo::KnxConverterInteger32BitSigned signed32(Dpt13Range());
-  Nelmo::KnxConverterInteger48BitUnsigned unsigned48(Dpt242Range());
+  StandardConverters standard;
   struct Row {
     KnxConverter* converter;
     KNXDPT dpt;
     ULOVALUE value;
   };
   const Row rows[] = {
-      {&byte, Dpt5, ULOVALUE::Byte(200)},
-      {&signed8, Dpt6, ULOVALUE::Int32(200)},
-      {&unsigned16, Dpt7, ULOVALUE::Int32(-5, IVT_UINT16)},
-      {&signed16, Dpt8, ULOVALUE::Int32(-40000)},
-      {&unsigned24, Dpt232, ULOVALUE::UInt32(UInt32Max)},
-      {&unsigned32, Dpt12, ULOVALUE::UInt32(UInt32Max)},
-      {&signed32, Dpt13, ULOVALUE::Int32(Int32Min)},
-      {&unsigned48, Dpt242, ULOVALUE::UInt64(UInt64Max)},
+      {&standard.byte, Dpt5, ULOVALUE::Byte(200)},
+      {&standard.signed8, Dpt6, ULOVALUE::Int32(200)},
+      {&standard.unsigned16, Dpt7, ULOVALUE::Int32(-5, IVT_UINT16)},
+      {&standard.signed16, Dpt8, ULOVALUE::Int32(-40000)},
+      {&standard.unsigned24, Dpt232, ULOVALUE::UInt32(UInt32Max)},
+      {&standard.unsigned32, Dpt12, ULOVALUE::UInt32(UInt32Max)},
+      {&standard.signed32, Dpt13, ULOVALUE::Int32(Int32Min)},
+      {&standard.unsigned48, Dpt242, ULOVALUE::UInt64(UInt64Max)},
   };
   for (const Row& row : rows) {
     SCOPED_TRACE(row.value.ToString());
-    KnxStack::GroupValue groupValue;
-    ULOVALUE received(row.value.GetType());
-    TestSupport::LogCapture capture(ULO_LOG_OFF);
-    EXPECT_EQ(CountedAllocations::During([&] {
-                EXPECT_TRUE(row.converter->ToKnxValue(row.dpt, row.value, groupValue));
-                EXPECT_TRUE(row.converter->FromKnxValue(row.dpt, groupValue, received));
-              }),
-              0);
+    ExpectRoundTripAllocatesNothing(*row.converter, row.dpt, row.value);
   }
 }
 
@@ -759,22 +736,16 @@ TEST(KnxConverterByte8BitUnsigned, ARefusalWritesOnlyTheTrace) {
 TEST(IntegerConverters, IgnoreTheValueTypeAndTheMainNumber) {
   Nelmo::KnxConverterInteger16BitSigned converter(Dpt8Range());
   KnxStack::GroupValue groupValue;
-  EXPECT_TRUE(converter.ToKnxValue(DptOf(16, 99, 9), ULOVALUE::Int32(-2, IVT_TYPE_5), groupValue));
+  EXPECT_TRUE(converter.ToKnxValue(KNXDPT{16, 99, 9}, ULOVALUE::Int32(-2, IVT_TYPE_5), groupValue));
   EXPECT_TRUE(Holds(groupValue, {0xFF, 0xFE}, 16));
   ULOVALUE value(IVT_TYPE_5);
-  EXPECT_TRUE(converter.FromKnxValue(DptOf(16, 99, 9), groupValue, value));
+  EXPECT_TRUE(converter.FromKnxValue(KNXDPT{16, 99, 9}, groupValue, value));
   EXPECT_EQ(value.GetInt32(), -2);
   EXPECT_EQ(value.GetType(), IVT_TYPE_5);
 }
 
 TEST(IntegerConverters, AccessorExceptionsPassThrough) {
-  Nelmo::KnxConverterByte8BitUnsigned byte;
-  Nelmo::KnxConverterInteger8BitSigned signed8(Dpt6Range());
-  Nelmo::KnxConverterInteger16BitUnsigned unsigned16(Dpt7Range());
-  Nelmo::KnxConverterInteger16BitSigned signed16(Dpt8Range());
-  Nelmo::KnxConverterInteger24BitUnsigned unsigned24(Dpt232Range());
-  Nelmo::KnxConverterInteger32BitUnsigned unsigned32(Dpt12Range());
-  Nelmo::KnxConverterInteger32BitSigned signed32(Dpt13Range());
+  StandardConverters standard;
   struct Row {
     const char* name;
     KnxConverter* converter;
@@ -783,14 +754,14 @@ TEST(IntegerConverters, AccessorExceptionsPassThrough) {
     unsigned int bits;
   };
   const Row rows[] = {
-      {"byte from 16 bits", &byte, IVT_BYTE, {0x00, 0x00}, 16},
-      {"signed 8 from 16 bits", &signed8, IVT_INT32, {0x00, 0x00}, 16},
-      {"unsigned 16 from 8 bits", &unsigned16, IVT_UINT16, {0x00}, 8},
-      {"unsigned 16 from one byte claiming 16 bits", &unsigned16, IVT_UINT16, {0x12}, 16},
-      {"signed 16 from 24 bits", &signed16, IVT_INT32, {0x00, 0x00, 0x00}, 24},
-      {"unsigned 24 from 32 bits", &unsigned24, IVT_UINT32, {0x00, 0x00, 0x00, 0x00}, 32},
-      {"unsigned 32 from 24 bits", &unsigned32, IVT_UINT32, {0x00, 0x00, 0x00}, 24},
-      {"signed 32 from nothing", &signed32, IVT_INT32, {}, 32},
+      {"byte from 16 bits", &standard.byte, IVT_BYTE, {0x00, 0x00}, 16},
+      {"signed 8 from 16 bits", &standard.signed8, IVT_INT32, {0x00, 0x00}, 16},
+      {"unsigned 16 from 8 bits", &standard.unsigned16, IVT_UINT16, {0x00}, 8},
+      {"unsigned 16 from one byte claiming 16 bits", &standard.unsigned16, IVT_UINT16, {0x12}, 16},
+      {"signed 16 from 24 bits", &standard.signed16, IVT_INT32, {0x00, 0x00, 0x00}, 24},
+      {"unsigned 24 from 32 bits", &standard.unsigned24, IVT_UINT32, {0x00, 0x00, 0x00, 0x00}, 32},
+      {"unsigned 32 from 24 bits", &standard.unsigned32, IVT_UINT32, {0x00, 0x00, 0x00}, 24},
+      {"signed 32 from nothing", &standard.signed32, IVT_INT32, {}, 32},
   };
   for (const Row& row : rows) {
     SCOPED_TRACE(row.name);
@@ -804,25 +775,16 @@ TEST(IntegerConverters, AccessorExceptionsPassThrough) {
 // ---------------------------------------------------------------------------
 // Clone
 
-template <typename Converter>
-void ExpectCloneKeepsRange(const Converter& source) {
-  std::unique_ptr<KnxConverter> clone(source.Clone());
-  const auto* typed = dynamic_cast<const Converter*>(clone.get());
-  ASSERT_NE(typed, nullptr);
-  EXPECT_NE(typed, &source);
-  EXPECT_TRUE(SameRange(typed->GetRange(), source.GetRange()));
-}
-
 // Each source uses a range that scales, so that the conversion after the
 // clone is gone shows the source's own range at work.
 TEST(IntegerConverterClone, KeepsTheRangeAndLeavesTheSourceUsable) {
-  Nelmo::KnxConverterInteger8BitSigned signed8(IntegerRangeOf(1, 10, 0, 90));
-  Nelmo::KnxConverterInteger16BitUnsigned unsigned16(IntegerRangeOf(0, 100, 0, 1000));
-  Nelmo::KnxConverterInteger16BitSigned signed16(IntegerRangeOf(-10, 10, -100, 100));
-  Nelmo::KnxConverterInteger24BitUnsigned unsigned24(LongIntegerRangeOf(0, 100, 100, 200));
-  Nelmo::KnxConverterInteger32BitUnsigned unsigned32(LongIntegerRangeOf(0, 10, 0, 100000));
-  Nelmo::KnxConverterInteger32BitSigned signed32(IntegerRangeOf(-1, 1, -1000, 1000));
-  Nelmo::KnxConverterInteger48BitUnsigned unsigned48(UnsignedLongIntegerRangeOf(0, 255, 0, 65535));
+  Nelmo::KnxConverterInteger8BitSigned signed8(FilledRange<IntegerRange>(1, 10, 0, 90));
+  Nelmo::KnxConverterInteger16BitUnsigned unsigned16(FilledRange<IntegerRange>(0, 100, 0, 1000));
+  Nelmo::KnxConverterInteger16BitSigned signed16(FilledRange<IntegerRange>(-10, 10, -100, 100));
+  Nelmo::KnxConverterInteger24BitUnsigned unsigned24(FilledRange<LongIntegerRange>(0, 100, 100, 200));
+  Nelmo::KnxConverterInteger32BitUnsigned unsigned32(FilledRange<LongIntegerRange>(0, 10, 0, 100000));
+  Nelmo::KnxConverterInteger32BitSigned signed32(FilledRange<IntegerRange>(-1, 1, -1000, 1000));
+  Nelmo::KnxConverterInteger48BitUnsigned unsigned48(FilledRange<UnsignedLongIntegerRange>(0, 255, 0, 65535));
   ExpectCloneKeepsRange(signed8);
   ExpectCloneKeepsRange(unsigned16);
   ExpectCloneKeepsRange(signed16);

@@ -17,15 +17,15 @@ namespace {
 using namespace ScalarConverterTest;
 using Nelmo::KnxConverter;
 
-const KNXDPT Dpt17 = DptOf(8, 17, 1);
-const KNXDPT Dpt18 = DptOf(8, 18, 1);
+const KNXDPT Dpt17{8, 17, 1};
+const KNXDPT Dpt18{8, 18, 1};
 
 // The ranges of the standard 17.x and 18.x rows.
 Nelmo::IntegerRange Dpt17Range() {
-  return IntegerRangeOf(1, 64, 0, 63);
+  return FilledRange<IntegerRange>(1, 64, 0, 63);
 }
 Nelmo::IntegerRange Dpt18Range() {
-  return IntegerRangeOf(-64, 64, 0, 255);
+  return FilledRange<IntegerRange>(-64, 64, 0, 255);
 }
 
 struct SendRow {
@@ -99,11 +99,7 @@ TEST(KnxConverterSceneNumber, RefusesAnythingButAnInt32Silently) {
                              ULOVALUE::TimeSpan(5)};
   for (const ULOVALUE& value : values) {
     SCOPED_TRACE(static_cast<int>(value.GetType()));
-    TestSupport::LogCapture capture(ULO_LOG_INFO);
-    KnxStack::GroupValue groupValue = Untouched();
-    EXPECT_FALSE(converter.ToKnxValue(Dpt17, value, groupValue));
-    EXPECT_TRUE(IsUntouched(groupValue));
-    EXPECT_TRUE(capture.Lines().empty());
+    ExpectRefusedSilently(converter, Dpt17, value);
   }
 }
 
@@ -111,7 +107,7 @@ TEST(KnxConverterSceneNumber, RefusesAnythingButAnInt32Silently) {
 TEST(KnxConverterSceneNumber, ConvertsWhateverTheMainNumber) {
   Nelmo::KnxConverterSceneNumber converter(Dpt17Range());
   KnxStack::GroupValue groupValue;
-  EXPECT_TRUE(converter.ToKnxValue(DptOf(8, 5, 1), ULOVALUE::Int32(2), groupValue));
+  EXPECT_TRUE(converter.ToKnxValue(KNXDPT{8, 5, 1}, ULOVALUE::Int32(2), groupValue));
   EXPECT_TRUE(Holds(groupValue, {0x01}, 8));
 }
 
@@ -163,11 +159,7 @@ TEST(KnxConverterSceneControl, RefusesAnythingButAnInt32Silently) {
                              ULOVALUE::Int32(5, IVT_TYPE_5)};
   for (const ULOVALUE& value : values) {
     SCOPED_TRACE(static_cast<int>(value.GetType()));
-    TestSupport::LogCapture capture(ULO_LOG_INFO);
-    KnxStack::GroupValue groupValue = Untouched();
-    EXPECT_FALSE(converter.ToKnxValue(Dpt18, value, groupValue));
-    EXPECT_TRUE(IsUntouched(groupValue));
-    EXPECT_TRUE(capture.Lines().empty());
+    ExpectRefusedSilently(converter, Dpt18, value);
   }
 }
 
@@ -188,7 +180,7 @@ TEST(SceneConverterMessages, EachConversionIsTracedAtLevel0) {
   const Row rows[] = {
       {&number, Dpt17, 100, "DPT is used. DPT = 17.1 ivt=4 val=100", 0x3F,
        "DPT is used. DPT = 17.1 grp.size=8 grp.val=3F"},
-      {&control, DptOf(8, 18, 0), -5, "DPT is used. DPT = 18.0 ivt=4 val=-5", 0x84,
+      {&control, KNXDPT{8, 18, 0}, -5, "DPT is used. DPT = 18.0 ivt=4 val=-5", 0x84,
        "DPT is used. DPT = 18.0 grp.size=8 grp.val=84"},
   };
   for (const Row& row : rows) {
@@ -219,15 +211,7 @@ TEST(SceneConverterMessages, NothingIsAllocatedWhileLoggingIsOff) {
   Nelmo::KnxConverterSceneNumber number(Dpt17Range());
   Nelmo::KnxConverterSceneControl control(Dpt18Range());
   for (KnxConverter* converter : {static_cast<KnxConverter*>(&number), static_cast<KnxConverter*>(&control)}) {
-    const ULOVALUE value = ULOVALUE::Int32(-100);
-    KnxStack::GroupValue groupValue;
-    ULOVALUE received(IVT_INT32);
-    TestSupport::LogCapture capture(ULO_LOG_OFF);
-    EXPECT_EQ(CountedAllocations::During([&] {
-                EXPECT_TRUE(converter->ToKnxValue(Dpt18, value, groupValue));
-                EXPECT_TRUE(converter->FromKnxValue(Dpt18, groupValue, received));
-              }),
-              0);
+    ExpectRoundTripAllocatesNothing(*converter, Dpt18, ULOVALUE::Int32(-100));
   }
 }
 
@@ -257,20 +241,11 @@ TEST(SceneConverters, AccessorExceptionsPassThrough) {
   }
 }
 
-template <typename Converter>
-void ExpectCloneKeepsRange(const Converter& source) {
-  std::unique_ptr<KnxConverter> clone(source.Clone());
-  const auto* typed = dynamic_cast<const Converter*>(clone.get());
-  ASSERT_NE(typed, nullptr);
-  EXPECT_NE(typed, &source);
-  EXPECT_TRUE(SameRange(typed->GetRange(), source.GetRange()));
-}
-
 // Narrower ranges than the standard rows', so that the clamping after the
 // clone is gone shows the source's own range.
 TEST(SceneConverterClone, KeepsTheRangeAndLeavesTheSourceUsable) {
-  Nelmo::KnxConverterSceneNumber number(IntegerRangeOf(1, 10, 0, 9));
-  Nelmo::KnxConverterSceneControl control(IntegerRangeOf(-10, 10, 0, 255));
+  Nelmo::KnxConverterSceneNumber number(FilledRange<IntegerRange>(1, 10, 0, 9));
+  Nelmo::KnxConverterSceneControl control(FilledRange<IntegerRange>(-10, 10, 0, 255));
   ExpectCloneKeepsRange(number);
   ExpectCloneKeepsRange(control);
   struct Row {

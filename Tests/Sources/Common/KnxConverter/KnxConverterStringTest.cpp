@@ -4,30 +4,30 @@
 #include <string>
 #include <vector>
 
+#include "ConverterChecks.h"
+#include "ConverterLines.h"
 #include "KnxConverterString.h"
+#include "KnxTestBytes.h"
 #include "LogCapture.h"
+#include "RangeRows.h"
+#include "RowName.h"
 
 namespace {
 
+using KnxTest::Bytes;
+using KnxTest::BytesOf;
+using KnxTest::GroupOf;
 using Nelmo::IntegerRange;
 using Nelmo::KnxConverter;
+using TestSupport::ExpectCloneKeepsRange;
+using TestSupport::FilledRange;
 using TestSupport::LogLine;
-using Bytes = std::vector<unsigned>;
+using TestSupport::RowName;
+using TestSupport::Trace;
 using Maker = std::unique_ptr<KnxConverter> (*)();
 
-KNXDPT Dpt(std::uint8_t bits, std::uint16_t main, std::uint16_t sub) {
-  return KNXDPT{bits, main, sub};
-}
-
 IntegerRange CharacterSet(std::int32_t last) {
-  IntegerRange range;
-  range.internalMinimum = 0;
-  range.internalMaximum = last;
-  range.externalMinimum = 0;
-  range.externalMaximum = last;
-  range.scaleFactor = 1.0;
-  range.CalculateScaleFactor();
-  return range;
+  return FilledRange<IntegerRange>(0, last, 0, last);
 }
 
 // The converters of the standard DPT rows: ASCII 0..127, ISO 8859-1 0..255.
@@ -44,11 +44,11 @@ std::unique_ptr<KnxConverter> Iso14() {
   return std::make_unique<Nelmo::KnxConverter14ByteString>(CharacterSet(255));
 }
 
-const KNXDPT Dpt4_x = Dpt(8, 4, 0);
-const KNXDPT Dpt4_001 = Dpt(8, 4, 1);
-const KNXDPT Dpt4_002 = Dpt(8, 4, 2);
-const KNXDPT Dpt16_x = Dpt(112, 16, 0);
-const KNXDPT Dpt16_001 = Dpt(112, 16, 1);
+const KNXDPT Dpt4_x{8, 4, 0};
+const KNXDPT Dpt4_001{8, 4, 1};
+const KNXDPT Dpt4_002{8, 4, 2};
+const KNXDPT Dpt16_x{112, 16, 0};
+const KNXDPT Dpt16_001{112, 16, 1};
 
 // UTF-8 texts used below.
 const std::string EAcute = "\xC3\xA9";    // U+00E9
@@ -56,20 +56,6 @@ const std::string Euro = "\xE2\x82\xAC";  // U+20AC, three bytes
 const std::string Greetings =
     "Gr\xC3\xBC\xC3\x9F"
     "e";  // seven bytes
-
-Bytes RawBytes(const KnxStack::GroupValue& groupValue) {
-  const KnxStack::BinaryData& data = groupValue.GetRawData();
-  Bytes bytes;
-  for (unsigned int i = 0; i < data.GetLength(); ++i) {
-    bytes.push_back(data[i]);
-  }
-  return bytes;
-}
-
-KnxStack::GroupValue Telegram(const Bytes& bytes, unsigned int bits) {
-  std::vector<unsigned char> raw(bytes.begin(), bytes.end());
-  return KnxStack::GroupValue(KnxStack::BinaryData(raw.data(), static_cast<unsigned int>(raw.size())), bits);
-}
 
 // A 14-byte field: the given bytes, padded with zero bytes.
 Bytes Field14(Bytes bytes) {
@@ -93,7 +79,7 @@ TEST_P(CharacterSend, WritesOneByte) {
   const SendRow& row = GetParam();
   KnxStack::GroupValue groupValue;
   EXPECT_TRUE(row.make()->ToKnxValue(row.dpt, ULOVALUE::String(row.text), groupValue));
-  EXPECT_EQ(RawBytes(groupValue), row.bytes);
+  EXPECT_EQ(BytesOf(groupValue), row.bytes);
   EXPECT_EQ(groupValue.GetDefinedSize(), 8u);
 }
 
@@ -118,8 +104,7 @@ const SendRow characterSendRows[] = {
     {"LoneLead_4_002", Iso8, Dpt4_002, "\xC3", {0xC0}},
 };
 
-INSTANTIATE_TEST_SUITE_P(Rows, CharacterSend, testing::ValuesIn(characterSendRows),
-                         [](const testing::TestParamInfo<SendRow>& info) { return std::string(info.param.name); });
+INSTANTIATE_TEST_SUITE_P(Rows, CharacterSend, testing::ValuesIn(characterSendRows), RowName());
 
 // --- 8-bit character: refusals, without a message ----------------------------
 
@@ -138,9 +123,9 @@ TEST_P(CharacterRefusal, LeavesTheGroupValueUntouched) {
   TestSupport::LogCapture capture(ULO_LOG_INFO);
   ULOVALUE value = ULOVALUE::String(row.text);
   value.SetType(row.type);
-  KnxStack::GroupValue groupValue = Telegram({0xAB, 0xCD}, 16);
+  KnxStack::GroupValue groupValue = GroupOf({0xAB, 0xCD}, 16);
   EXPECT_FALSE(row.make()->ToKnxValue(row.dpt, value, groupValue));
-  EXPECT_EQ(RawBytes(groupValue), (Bytes{0xAB, 0xCD}));
+  EXPECT_EQ(BytesOf(groupValue), (Bytes{0xAB, 0xCD}));
   EXPECT_EQ(groupValue.GetDefinedSize(), 16u);
   EXPECT_TRUE(capture.Lines().empty());
 }
@@ -151,13 +136,12 @@ const RefusalRow characterRefusalRows[] = {
     {"EuroOnAscii", Ascii8, Dpt4_001, IVT_STRING, Euro},
     {"Latin1ByteOnAscii", Ascii8, Dpt4_001, IVT_STRING, "\xE9"},
     {"MainNumber16", Iso8, Dpt16_001, IVT_STRING, "A"},
-    {"MainNumber5", Ascii8, Dpt(8, 5, 1), IVT_STRING, "A"},
+    {"MainNumber5", Ascii8, KNXDPT{8, 5, 1}, IVT_STRING, "A"},
     {"ValueTypeInt32", Ascii8, Dpt4_001, IVT_INT32, "A"},
     {"ValueTypeAny", Iso8, Dpt4_002, IVT_ANY, "A"},
 };
 
-INSTANTIATE_TEST_SUITE_P(Rows, CharacterRefusal, testing::ValuesIn(characterRefusalRows),
-                         [](const testing::TestParamInfo<RefusalRow>& info) { return std::string(info.param.name); });
+INSTANTIATE_TEST_SUITE_P(Rows, CharacterRefusal, testing::ValuesIn(characterRefusalRows), RowName());
 
 // --- 8-bit character: receiving ----------------------------------------------
 
@@ -177,7 +161,7 @@ TEST_P(CharacterReceive, ReadsOneByte) {
   const ReceiveRow& row = GetParam();
   TestSupport::LogCapture capture(ULO_LOG_INFO);
   ULOVALUE value = ULOVALUE::String("unchanged");
-  EXPECT_EQ(row.make()->FromKnxValue(row.dpt, Telegram(row.bytes, row.size), value), row.result);
+  EXPECT_EQ(row.make()->FromKnxValue(row.dpt, GroupOf(row.bytes, row.size), value), row.result);
   EXPECT_EQ(value.GetString(), row.text);
   EXPECT_EQ(value.GetType(), IVT_STRING);
   EXPECT_TRUE(capture.Lines().empty());
@@ -194,11 +178,10 @@ const ReceiveRow characterReceiveRows[] = {
     {"LastIso_4_002", Iso8, Dpt4_002, {0xFF}, 8, true, "\xC3\xBF"},
     {"EAcute_4_001", Ascii8, Dpt4_001, {0xE9}, 8, false, "unchanged"},
     {"FirstHigh_4_x", Ascii8, Dpt4_x, {0x80}, 8, false, "unchanged"},
-    {"MainNumber16", Iso8, Dpt(8, 16, 1), {0x41}, 8, false, "unchanged"},
+    {"MainNumber16", Iso8, KNXDPT{8, 16, 1}, {0x41}, 8, false, "unchanged"},
 };
 
-INSTANTIATE_TEST_SUITE_P(Rows, CharacterReceive, testing::ValuesIn(characterReceiveRows),
-                         [](const testing::TestParamInfo<ReceiveRow>& info) { return std::string(info.param.name); });
+INSTANTIATE_TEST_SUITE_P(Rows, CharacterReceive, testing::ValuesIn(characterReceiveRows), RowName());
 
 // --- 14-byte text: sending ---------------------------------------------------
 
@@ -209,7 +192,7 @@ TEST_P(TextSend, WritesFourteenBytes) {
   TestSupport::LogCapture capture(ULO_LOG_INFO);
   KnxStack::GroupValue groupValue;
   EXPECT_TRUE(row.make()->ToKnxValue(row.dpt, ULOVALUE::String(row.text), groupValue));
-  EXPECT_EQ(RawBytes(groupValue), row.bytes);
+  EXPECT_EQ(BytesOf(groupValue), row.bytes);
   EXPECT_EQ(groupValue.GetDefinedSize(), 112u);
   EXPECT_TRUE(capture.Lines().empty());
 }
@@ -248,8 +231,7 @@ const SendRow textSendRows[] = {
     {"OnMainNumber4", Ascii14, Dpt4_001, "Hi", Field14({0x48, 0x69})},
 };
 
-INSTANTIATE_TEST_SUITE_P(Rows, TextSend, testing::ValuesIn(textSendRows),
-                         [](const testing::TestParamInfo<SendRow>& info) { return std::string(info.param.name); });
+INSTANTIATE_TEST_SUITE_P(Rows, TextSend, testing::ValuesIn(textSendRows), RowName());
 
 // No value-type check: the text payload is used whatever the tag says.
 TEST(TextSend, AnyValueType) {
@@ -257,7 +239,7 @@ TEST(TextSend, AnyValueType) {
   value.SetType(IVT_INT32);
   KnxStack::GroupValue groupValue;
   EXPECT_TRUE(Ascii14()->ToKnxValue(Dpt16_x, value, groupValue));
-  EXPECT_EQ(RawBytes(groupValue), Field14({0x48, 0x69}));
+  EXPECT_EQ(BytesOf(groupValue), Field14({0x48, 0x69}));
 }
 
 // --- 14-byte text: receiving -------------------------------------------------
@@ -268,7 +250,7 @@ TEST_P(TextReceive, ReadsFourteenBytes) {
   const ReceiveRow& row = GetParam();
   TestSupport::LogCapture capture(ULO_LOG_INFO);
   ULOVALUE value = ULOVALUE::String("unchanged");
-  EXPECT_EQ(row.make()->FromKnxValue(row.dpt, Telegram(row.bytes, row.size), value), row.result);
+  EXPECT_EQ(row.make()->FromKnxValue(row.dpt, GroupOf(row.bytes, row.size), value), row.result);
   EXPECT_EQ(value.GetString(), row.text);
   EXPECT_TRUE(capture.Lines().empty());
 }
@@ -313,11 +295,10 @@ const ReceiveRow textReceiveRows[] = {
      "Caf OK! \x7F"
      "12"},
     // No main-number check.
-    {"OnMainNumber4", Ascii14, Dpt(112, 4, 1), Field14({0x48, 0x69}), 112, true, "Hi"},
+    {"OnMainNumber4", Ascii14, KNXDPT{112, 4, 1}, Field14({0x48, 0x69}), 112, true, "Hi"},
 };
 
-INSTANTIATE_TEST_SUITE_P(Rows, TextReceive, testing::ValuesIn(textReceiveRows),
-                         [](const testing::TestParamInfo<ReceiveRow>& info) { return std::string(info.param.name); });
+INSTANTIATE_TEST_SUITE_P(Rows, TextReceive, testing::ValuesIn(textReceiveRows), RowName());
 
 // --- Messages ----------------------------------------------------------------
 
@@ -337,7 +318,7 @@ TEST_P(StringSendTrace, OneTraceLine) {
   TestSupport::LogCapture capture;
   KnxStack::GroupValue groupValue;
   EXPECT_EQ(row.make()->ToKnxValue(row.dpt, ULOVALUE::String(row.text), groupValue), row.result);
-  const std::vector<LogLine> expected{{ULO_LOG_TRACE, "KnxConverter", "ToKnxValue", row.message}};
+  const std::vector<LogLine> expected{Trace("ToKnxValue", row.message)};
   EXPECT_EQ(capture.Lines(), expected);
 }
 
@@ -350,10 +331,7 @@ const SendMessageRow sendMessageRows[] = {
     {"EmptyText", Ascii14, Dpt16_x, "", true, "DPT is used. DPT = 16.0 ivt=10 val="},
 };
 
-INSTANTIATE_TEST_SUITE_P(Rows, StringSendTrace, testing::ValuesIn(sendMessageRows),
-                         [](const testing::TestParamInfo<SendMessageRow>& info) {
-                           return std::string(info.param.name);
-                         });
+INSTANTIATE_TEST_SUITE_P(Rows, StringSendTrace, testing::ValuesIn(sendMessageRows), RowName());
 
 struct ReceiveMessageRow {
   const char* name;
@@ -371,8 +349,8 @@ TEST_P(StringReceiveTrace, OneTraceLine) {
   const ReceiveMessageRow& row = GetParam();
   TestSupport::LogCapture capture;
   ULOVALUE value = ULOVALUE::String("");
-  EXPECT_EQ(row.make()->FromKnxValue(row.dpt, Telegram(row.bytes, row.size), value), row.result);
-  const std::vector<LogLine> expected{{ULO_LOG_TRACE, "KnxConverter", "FromKnxValue", row.message}};
+  EXPECT_EQ(row.make()->FromKnxValue(row.dpt, GroupOf(row.bytes, row.size), value), row.result);
+  const std::vector<LogLine> expected{Trace("FromKnxValue", row.message)};
   EXPECT_EQ(capture.Lines(), expected);
 }
 
@@ -383,10 +361,7 @@ const ReceiveMessageRow receiveMessageRows[] = {
      "DPT is used. DPT = 16.1 grp.size=112 grp.val=47 72 FC DF 65 00 00 00 00 00 00 00 00 00"},
 };
 
-INSTANTIATE_TEST_SUITE_P(Rows, StringReceiveTrace, testing::ValuesIn(receiveMessageRows),
-                         [](const testing::TestParamInfo<ReceiveMessageRow>& info) {
-                           return std::string(info.param.name);
-                         });
+INSTANTIATE_TEST_SUITE_P(Rows, StringReceiveTrace, testing::ValuesIn(receiveMessageRows), RowName());
 
 // --- Exceptions of the group value pass through ------------------------------
 
@@ -403,7 +378,7 @@ class StringGroupValueException : public testing::TestWithParam<ThrowRow> {};
 TEST_P(StringGroupValueException, PassesThroughFromKnxValue) {
   const ThrowRow& row = GetParam();
   ULOVALUE value = ULOVALUE::String("unchanged");
-  EXPECT_THROW(row.make()->FromKnxValue(row.dpt, Telegram(row.bytes, row.size), value), KnxStack::GroupValueException);
+  EXPECT_THROW(row.make()->FromKnxValue(row.dpt, GroupOf(row.bytes, row.size), value), KnxStack::GroupValueException);
   EXPECT_EQ(value.GetString(), "unchanged");
 }
 
@@ -414,23 +389,9 @@ const ThrowRow throwRows[] = {
     {"TextShortPayload", Ascii14, Dpt16_x, {0x41, 0x42, 0x43}, 112},
 };
 
-INSTANTIATE_TEST_SUITE_P(WrongSize, StringGroupValueException, testing::ValuesIn(throwRows),
-                         [](const testing::TestParamInfo<ThrowRow>& info) { return std::string(info.param.name); });
+INSTANTIATE_TEST_SUITE_P(WrongSize, StringGroupValueException, testing::ValuesIn(throwRows), RowName());
 
 // --- Clone -------------------------------------------------------------------
-
-template <typename Converter>
-void ExpectCloneKeepsRange(const Converter& source) {
-  std::unique_ptr<KnxConverter> clone(source.Clone());
-  const auto* copy = dynamic_cast<const Converter*>(clone.get());
-  ASSERT_NE(copy, nullptr);
-  EXPECT_NE(copy, &source);
-  EXPECT_EQ(copy->GetRange().internalMinimum, source.GetRange().internalMinimum);
-  EXPECT_EQ(copy->GetRange().internalMaximum, source.GetRange().internalMaximum);
-  EXPECT_EQ(copy->GetRange().externalMinimum, source.GetRange().externalMinimum);
-  EXPECT_EQ(copy->GetRange().externalMaximum, source.GetRange().externalMaximum);
-  EXPECT_EQ(copy->GetRange().scaleFactor, source.GetRange().scaleFactor);
-}
 
 TEST(StringClone, KeepsTheRangeAndLeavesTheSourceUsable) {
   Nelmo::KnxConverter8BitString character(CharacterSet(255));
@@ -442,9 +403,9 @@ TEST(StringClone, KeepsTheRangeAndLeavesTheSourceUsable) {
 
   KnxStack::GroupValue groupValue;
   EXPECT_TRUE(character.ToKnxValue(Dpt4_002, ULOVALUE::String(EAcute), groupValue));
-  EXPECT_EQ(RawBytes(groupValue), Bytes{0xE9});
+  EXPECT_EQ(BytesOf(groupValue), Bytes{0xE9});
   EXPECT_TRUE(text.ToKnxValue(Dpt16_x, ULOVALUE::String(Greetings), groupValue));
-  EXPECT_EQ(RawBytes(groupValue), Field14({0x47, 0x72, 0x65}));
+  EXPECT_EQ(BytesOf(groupValue), Field14({0x47, 0x72, 0x65}));
 }
 
 }  // namespace

@@ -129,15 +129,8 @@ class KnxConverterTimeSend : public testing::TestWithParam<SendRow> {};
 
 TEST_P(KnxConverterTimeSend, WritesBusBytesOrRefuses) {
   const SendRow& row = GetParam();
-  LogCapture capture;
-  KnxStack::GroupValue groupValue;
-  const ULOVALUE value =
-      ValueOf(IVT_TIME, ULOTIME{2024, 5, 30, row.hour, row.minute, row.second, row.weekday, 1, true});
-
-  EXPECT_EQ(row.converter->ToKnxValue(DptOf(row.converter), value, groupValue), row.result);
-  EXPECT_EQ(BytesOf(groupValue), row.bytes);
-  EXPECT_EQ(groupValue.GetDefinedSize(), row.bytes.empty() ? 0u : 24u);
-  EXPECT_EQ(capture.Lines(), row.log);
+  ExpectSent(*row.converter, DptOf(row.converter),
+             ValueOf(IVT_TIME, ULOTIME{2024, 5, 30, row.hour, row.minute, row.second, row.weekday, 1, true}), 24, row);
 }
 
 INSTANTIATE_TEST_SUITE_P(Rows, KnxConverterTimeSend, testing::ValuesIn(sendRows), RowName());
@@ -216,13 +209,7 @@ class KnxConverterTimeReceive : public testing::TestWithParam<ReceiveRow> {};
 
 TEST_P(KnxConverterTimeReceive, ReadsBusBytesOrRefuses) {
   const ReceiveRow& row = GetParam();
-  LogCapture capture;
-  ULOVALUE value = ValueOf(IVT_TIME, before);
-
-  EXPECT_EQ(row.converter->FromKnxValue(DptOf(row.converter), GroupOf(row.bytes, 24), value), row.result);
-  EXPECT_EQ(value.GetTime(), row.time);
-  EXPECT_EQ(value.GetType(), IVT_TIME);
-  EXPECT_EQ(capture.Lines(), row.log);
+  ExpectReceived(*row.converter, DptOf(row.converter), 24, IVT_TIME, before, row);
 }
 
 INSTANTIATE_TEST_SUITE_P(Rows, KnxConverterTimeReceive, testing::ValuesIn(receiveRows), RowName());
@@ -252,14 +239,10 @@ class KnxConverterTimeWrongSize : public testing::TestWithParam<WrongSizeRow> {}
 TEST_P(KnxConverterTimeWrongSize, IsCaughtOnReceive) {
   const WrongSizeRow& row = GetParam();
   const KnxStack::GroupValue groupValue = GroupOf(row.bytes, row.bits);
-  const std::string stackText = StackMessage([&] { groupValue.GetAsTimeOfDay(nullptr, nullptr, nullptr, nullptr); });
-  LogCapture capture;
-  ULOVALUE value = ValueOf(IVT_TIME, before);
-
-  EXPECT_FALSE(row.converter->FromKnxValue(DptOf(row.converter), groupValue, value));
-  EXPECT_EQ(value.GetTime(), before);
-  EXPECT_EQ(capture.Lines(),
-            std::vector<LogLine>{Error("FromKnxValue", "Exception caught during conversion of time: " + stackText)});
+  const std::string stackText =
+      GroupValueExceptionText([&] { groupValue.GetAsTimeOfDay(nullptr, nullptr, nullptr, nullptr); });
+  ExpectCaughtOnReceive(*row.converter, DptOf(row.converter), IVT_TIME, before, groupValue,
+                        "Exception caught during conversion of time: " + stackText);
 }
 
 INSTANTIATE_TEST_SUITE_P(Rows, KnxConverterTimeWrongSize, testing::ValuesIn(wrongSizeRows), RowName());

@@ -12,23 +12,8 @@
 
 namespace {
 
+using namespace TestSupport;
 using Nelmo::LongIntegerRange;
-using TestSupport::ExpectFactors;
-using TestSupport::ExpectFits;
-using TestSupport::ExpectMessages;
-using TestSupport::ExpectPlainFits;
-using TestSupport::ExpectScaledFrom;
-using TestSupport::ExpectScaledTo;
-using TestSupport::ExpectTexts;
-using TestSupport::FactorRow;
-using TestSupport::FilledRange;
-using TestSupport::FitRow;
-using TestSupport::LogCapture;
-using TestSupport::MessageRow;
-using TestSupport::PlainFitRow;
-using TestSupport::ScaleFactorError;
-using TestSupport::ScaleRow;
-using TestSupport::TextRow;
 
 constexpr std::int64_t Min64 = std::numeric_limits<std::int64_t>::min();
 constexpr std::int64_t Max64 = std::numeric_limits<std::int64_t>::max();

@@ -1,49 +1,41 @@
 #pragma once
 
 // Shared by the bit, integer and scene converter tests: group values built
-// from and compared as bus bytes, the ranges of the standard DPT rows and the
-// expected log lines.
+// from and compared as bus bytes, the ranges of the standard DPT rows, the
+// expected log lines and the checks every converter family gets.
 
-#include <cstdint>
-#include <string>
+#include <cstddef>
 #include <vector>
 
 #include <gtest/gtest.h>
 
+#include "ConverterChecks.h"
+#include "ConverterLines.h"
 #include "FloatRange.h"
 #include "IntegerRange.h"
+#include "KnxConverter.h"
 #include "KnxStack.h"
+#include "KnxTestBytes.h"
 #include "LogCapture.h"
 #include "LongIntegerRange.h"
+#include "RangeRows.h"
 #include "UloPlatform.h"
 
 namespace ScalarConverterTest {
 
-using Bytes = std::vector<unsigned char>;
+using KnxTest::Bytes;
+using KnxTest::GroupOf;
+using KnxTest::Holds;
+using Nelmo::IntegerRange;
+using Nelmo::LongIntegerRange;
+using Nelmo::UnsignedLongIntegerRange;
+using TestSupport::Adjusted;
+using TestSupport::Error;
+using TestSupport::ExpectCloneKeepsRange;
+using TestSupport::ExpectRoundTripAllocatesNothing;
+using TestSupport::FilledRange;
 using TestSupport::LogLine;
-
-inline KNXDPT DptOf(std::uint8_t bitSize, std::uint16_t mainNumber, std::uint16_t subNumber) {
-  KNXDPT dpt;
-  dpt.bitSize = bitSize;
-  dpt.mainNumber = mainNumber;
-  dpt.subNumber = subNumber;
-  return dpt;
-}
-
-inline KnxStack::GroupValue GroupOf(const Bytes& bytes, unsigned int bits) {
-  return KnxStack::GroupValue(KnxStack::BinaryData(bytes.data(), static_cast<unsigned int>(bytes.size())), bits);
-}
-
-// The group value's bytes and defined size, as the bus would carry them.
-inline ::testing::AssertionResult Holds(const KnxStack::GroupValue& groupValue, const Bytes& bytes, unsigned int bits) {
-  const KnxStack::BinaryData expected(bytes.data(), static_cast<unsigned int>(bytes.size()));
-  if (groupValue.GetRawData() == expected && groupValue.GetDefinedSize() == bits) {
-    return ::testing::AssertionSuccess();
-  }
-  return ::testing::AssertionFailure() << "holds [" << groupValue.GetRawData().ToString() << "] of "
-                                       << groupValue.GetDefinedSize() << " bits, expected [" << expected.ToString()
-                                       << "] of " << bits << " bits";
-}
+using TestSupport::Trace;
 
 // Stands in for a group value that a refused conversion must leave alone.
 inline KnxStack::GroupValue Untouched() {
@@ -54,66 +46,55 @@ inline ::testing::AssertionResult IsUntouched(const KnxStack::GroupValue& groupV
   return Holds(groupValue, {0xA5, 0x5A}, 16);
 }
 
-inline LogLine Trace(const char* function, const std::string& text) {
-  return LogLine{ULO_LOG_TRACE, "KnxConverter", function, text};
-}
+struct SendRow {
+  ULOVALUE value;
+  Bytes bytes;
+};
 
-inline LogLine Adjusted(const std::string& text) {
-  return LogLine{ULO_LOG_INFO, "KnxConverter", "ToKnxValue", text};
-}
-
-inline LogLine Error(const char* function, const std::string& text) {
-  return LogLine{ULO_LOG_ERROR, "KnxConverter", function, text};
-}
-
-// Ranges filled the way the DPT table fills them.
-inline Nelmo::IntegerRange IntegerRangeOf(std::int32_t internalMin, std::int32_t internalMax, std::int32_t externalMin,
-                                          std::int32_t externalMax) {
-  Nelmo::IntegerRange range;
-  range.internalMinimum = internalMin;
-  range.internalMaximum = internalMax;
-  range.externalMinimum = externalMin;
-  range.externalMaximum = externalMax;
-  range.scaleFactor = 1.0;
-  range.CalculateScaleFactor();
-  return range;
-}
-
-inline Nelmo::LongIntegerRange LongIntegerRangeOf(std::int64_t internalMin, std::int64_t internalMax,
-                                                  std::int64_t externalMin, std::int64_t externalMax) {
-  Nelmo::LongIntegerRange range;
-  range.internalMinimum = internalMin;
-  range.internalMaximum = internalMax;
-  range.externalMinimum = externalMin;
-  range.externalMaximum = externalMax;
-  range.scaleFactor = 1.0;
-  range.CalculateScaleFactor();
-  return range;
-}
-
-inline Nelmo::UnsignedLongIntegerRange UnsignedLongIntegerRangeOf(std::uint64_t internalMin, std::uint64_t internalMax,
-                                                                  std::uint64_t externalMin,
-                                                                  std::uint64_t externalMax) {
-  Nelmo::UnsignedLongIntegerRange range;
-  range.internalMinimum = internalMin;
-  range.internalMaximum = internalMax;
-  range.externalMinimum = externalMin;
-  range.externalMaximum = externalMax;
-  range.scaleFactor = 1.0;
-  range.CalculateScaleFactor();
-  return range;
-}
-
-// Field by field, the scale factor included.
-template <typename Range>
-::testing::AssertionResult SameRange(const Range& actual, const Range& expected) {
-  if (actual.internalMinimum == expected.internalMinimum && actual.internalMaximum == expected.internalMaximum &&
-      actual.externalMinimum == expected.externalMinimum && actual.externalMaximum == expected.externalMaximum &&
-      actual.scaleFactor == expected.scaleFactor) {
-    return ::testing::AssertionSuccess();
+// Sends each row's value into a group value that starts as start.
+inline void ExpectSends(Nelmo::KnxConverter& converter, const KNXDPT& dpt, const std::vector<SendRow>& rows,
+                        unsigned int bits, const KnxStack::GroupValue& start = KnxStack::GroupValue()) {
+  for (const SendRow& row : rows) {
+    SCOPED_TRACE("value " + row.value.ToString());
+    KnxStack::GroupValue groupValue = start;
+    EXPECT_TRUE(converter.ToKnxValue(dpt, row.value, groupValue));
+    EXPECT_TRUE(Holds(groupValue, row.bytes, bits));
   }
-  return ::testing::AssertionFailure() << actual.ToString() << " factor " << actual.scaleFactor << ", expected "
-                                       << expected.ToString() << " factor " << expected.scaleFactor;
+}
+
+// Receiving on a main number that is not the converter's fails without a
+// line and leaves the value alone.
+inline void ExpectNotReceivedSilently(Nelmo::KnxConverter& converter, const KNXDPT& dpt,
+                                      const KnxStack::GroupValue& groupValue) {
+  TestSupport::LogCapture capture;
+  ULOVALUE value = ULOVALUE::Bool(false);
+  EXPECT_FALSE(converter.FromKnxValue(dpt, groupValue, value));
+  EXPECT_FALSE(value.GetBool());
+  EXPECT_TRUE(capture.Lines().empty());
+}
+
+// A refusal leaves the group value alone and writes nothing at level 1 or
+// above.
+inline void ExpectRefusedSilently(Nelmo::KnxConverter& converter, const KNXDPT& dpt, const ULOVALUE& value) {
+  TestSupport::LogCapture capture(ULO_LOG_INFO);
+  KnxStack::GroupValue groupValue = Untouched();
+  EXPECT_FALSE(converter.ToKnxValue(dpt, value, groupValue));
+  EXPECT_TRUE(IsUntouched(groupValue));
+  EXPECT_TRUE(capture.Lines().empty());
+}
+
+struct RefusalRow {
+  const char* name;
+  KNXDPT dpt;
+  ULOVALUE value;
+};
+
+template <std::size_t N>
+void ExpectRefusedSilently(Nelmo::KnxConverter& converter, const RefusalRow (&rows)[N]) {
+  for (const RefusalRow& row : rows) {
+    SCOPED_TRACE(row.name);
+    ExpectRefusedSilently(converter, row.dpt, row.value);
+  }
 }
 
 }  // namespace ScalarConverterTest

@@ -12,23 +12,8 @@
 
 namespace {
 
+using namespace TestSupport;
 using Nelmo::UnsignedLongIntegerRange;
-using TestSupport::ExpectFactors;
-using TestSupport::ExpectFits;
-using TestSupport::ExpectMessages;
-using TestSupport::ExpectPlainFits;
-using TestSupport::ExpectScaledFrom;
-using TestSupport::ExpectScaledTo;
-using TestSupport::ExpectTexts;
-using TestSupport::FactorRow;
-using TestSupport::FilledRange;
-using TestSupport::FitRow;
-using TestSupport::LogCapture;
-using TestSupport::MessageRow;
-using TestSupport::PlainFitRow;
-using TestSupport::ScaleFactorError;
-using TestSupport::ScaleRow;
-using TestSupport::TextRow;
 
 constexpr std::uint64_t MaxU64 = std::numeric_limits<std::uint64_t>::max();
 constexpr std::uint64_t Max48 = 281474976710655;  // 2^48 - 1
