@@ -7,35 +7,29 @@
 #include <thread>
 #include <vector>
 
+#include "ConverterLines.h"
 #include "FloatRange.h"
 #include "KnxConverterBit.h"
 #include "KnxConverterDefault.h"
 #include "KnxConverterFloat.h"
+#include "KnxTestBytes.h"
 #include "KnxValueConverter.h"
 #include "LogCapture.h"
+#include "RangeRows.h"
 
 namespace {
 
-using Bytes = std::vector<unsigned char>;
+using KnxTest::Bytes;
+using KnxTest::GroupOf;
+using TestSupport::FacadeLine;
 using TestSupport::LogCapture;
 using TestSupport::LogLine;
 
 constexpr int ThreadCount = 4;
 constexpr int Rounds = 200;
 
-KnxStack::GroupValue GroupOf(const Bytes& bytes, unsigned int bits) {
-  return KnxStack::GroupValue(KnxStack::BinaryData(bytes.data(), static_cast<unsigned int>(bytes.size())), bits);
-}
-
 Nelmo::FloatRange FullFloat16Range() {
-  Nelmo::FloatRange range;
-  range.internalMinimum = -671088.64;
-  range.internalMaximum = 670760.96;
-  range.externalMinimum = -671088.64;
-  range.externalMaximum = 670760.96;
-  range.scaleFactor = 1.0;
-  range.CalculateScaleFactor();
-  return range;
+  return TestSupport::FilledRange<Nelmo::FloatRange>(-671088.64, 670760.96, -671088.64, 670760.96);
 }
 
 struct Sending {
@@ -75,10 +69,10 @@ const Receiving Receivings[] = {
 
 // The lines that the refused rows above write, once per round.
 const std::vector<LogLine> RoundLines = {
-    {ULO_LOG_ERROR, "KnxValueConverter", "GetEntry", "No Entry found for DPT = 99.1"},
-    {ULO_LOG_ERROR, "KnxValueConverter", "ToKnxValue", "No Entry found for DPT = 99.1"},
-    {ULO_LOG_ERROR, "KnxValueConverter", "FromKnxValue",
-     "Failed to convert a GroupValue for DPT 9.1 because of unexpected bit size: 8, expected: 16"},
+    FacadeLine("GetEntry", "No Entry found for DPT = 99.1"),
+    FacadeLine("ToKnxValue", "No Entry found for DPT = 99.1"),
+    FacadeLine("FromKnxValue",
+               "Failed to convert a GroupValue for DPT 9.1 because of unexpected bit size: 8, expected: 16"),
 };
 
 void CheckSending(const Nelmo::KnxValueConverter& facade, const Sending& row, std::vector<std::string>& failures) {

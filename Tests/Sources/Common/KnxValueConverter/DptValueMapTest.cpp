@@ -5,6 +5,7 @@
 #include <utility>
 #include <vector>
 
+#include "ConverterLines.h"
 #include "DptValueMap.h"
 #include "KnxConverterDefault.h"
 #include "KnxValueConverter.h"
@@ -26,7 +27,7 @@ static_assert(std::is_nothrow_move_constructible_v<DptValueEntry>, "rows move in
 static_assert(std::is_nothrow_move_assignable_v<DptValueEntry>, "rows move into the map");
 
 LogLine GetEntryLine(const std::string& text) {
-  return LogLine{ULO_LOG_ERROR, "KnxValueConverter", "GetEntry", text};
+  return TestSupport::FacadeLine("GetEntry", text);
 }
 
 void ExpectEmptyEntry(const DptValueEntry& entry) {

@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cstddef>
 #include <map>
 #include <memory>
 #include <string>
@@ -12,7 +13,9 @@
 #include <utility>
 #include <vector>
 
+#include "ConverterLines.h"
 #include "KnxStack.h"
+#include "KnxTestBytes.h"
 #include "KnxValueConverter.h"
 #include "LogCapture.h"
 #include "RecordingConverter.h"
@@ -20,18 +23,13 @@
 
 namespace FacadeTest {
 
-using Bytes = std::vector<unsigned char>;
+using KnxTest::Bytes;
+using KnxTest::GroupOf;
+using KnxTest::Holds;
 using TestConverters::Behaviour;
 using TestConverters::Script;
+using TestSupport::FacadeLine;
 using TestSupport::LogLine;
-
-inline KnxStack::GroupValue GroupOf(const Bytes& bytes, unsigned int bits) {
-  return KnxStack::GroupValue(KnxStack::BinaryData(bytes.data(), static_cast<unsigned int>(bytes.size())), bits);
-}
-
-inline LogLine FacadeLine(const char* function, const std::string& text) {
-  return LogLine{ULO_LOG_ERROR, "KnxValueConverter", function, text};
-}
 
 // A missing row is reported by the map and again by the conversion.
 inline std::vector<LogLine> NoEntryLines(const char* function, const std::string& dpt) {
@@ -59,14 +57,22 @@ inline ::testing::AssertionResult SameValue(const ULOVALUE& actual, const ULOVAL
                                        << "\"";
 }
 
-inline ::testing::AssertionResult Holds(const KnxStack::GroupValue& groupValue, const Bytes& bytes, unsigned int bits) {
-  const KnxStack::BinaryData expected(bytes.data(), static_cast<unsigned int>(bytes.size()));
-  if (groupValue.GetRawData() == expected && groupValue.GetDefinedSize() == bits) {
-    return ::testing::AssertionSuccess();
+// Converts every row with the log at the threshold and checks the row's
+// result and lines; the lines are errors, so none is written above that
+// level.
+template <typename Row, std::size_t N>
+void ExpectOutcomes(const Nelmo::KnxValueConverter& facade, const Row (&rows)[N], int threshold,
+                    bool (*convert)(const Nelmo::KnxValueConverter&, const Row&)) {
+  for (const Row& row : rows) {
+    SCOPED_TRACE(row.name);
+    TestSupport::LogCapture capture(threshold);
+    EXPECT_EQ(convert(facade, row), row.result);
+    if (threshold <= ULO_LOG_ERROR) {
+      EXPECT_EQ(capture.Lines(), row.lines);
+    } else {
+      EXPECT_TRUE(capture.Lines().empty());
+    }
   }
-  return ::testing::AssertionFailure() << "holds [" << groupValue.GetRawData().ToString() << "] of "
-                                       << groupValue.GetDefinedSize() << " bits, expected [" << expected.ToString()
-                                       << "] of " << bits << " bits";
 }
 
 // Text of the exception that the recording converters throw.

@@ -10,6 +10,7 @@ namespace {
 
 using FacadeTest::Bytes;
 using FacadeTest::Conversion;
+using FacadeTest::ExpectOutcomes;
 using FacadeTest::FacadeLine;
 using FacadeTest::GroupOf;
 using FacadeTest::Holds;
@@ -110,37 +111,22 @@ const Outcome Outcomes[] = {
     {"default DPT of 40 bits has no row", {40, 0, 0}, GroupOf(Bytes(5, 0), 40), IVT_UINT64, false, NoEntry("218.0")},
 };
 
+bool Receive(const Nelmo::KnxValueConverter& facade, const Outcome& row) {
+  KNXDPT dpt = row.dpt;
+  ULOVALUE value(row.wanted);
+  return facade.FromKnxValue(dpt, row.received, value);
+}
+
 TEST_F(Conversion, FromKnxResultsAndLines) {
-  for (const Outcome& row : Outcomes) {
-    SCOPED_TRACE(row.name);
-    LogCapture capture;
-    KNXDPT dpt = row.dpt;
-    ULOVALUE value(row.wanted);
-    EXPECT_EQ(m_facade.FromKnxValue(dpt, row.received, value), row.result);
-    EXPECT_EQ(capture.Lines(), row.lines);
-  }
+  ExpectOutcomes(m_facade, Outcomes, ULO_LOG_TRACE, Receive);
 }
 
 TEST_F(Conversion, FromKnxWritesTheSameLinesWithOnlyErrorsActive) {
-  for (const Outcome& row : Outcomes) {
-    SCOPED_TRACE(row.name);
-    LogCapture capture(ULO_LOG_ERROR);
-    KNXDPT dpt = row.dpt;
-    ULOVALUE value(row.wanted);
-    EXPECT_EQ(m_facade.FromKnxValue(dpt, row.received, value), row.result);
-    EXPECT_EQ(capture.Lines(), row.lines);
-  }
+  ExpectOutcomes(m_facade, Outcomes, ULO_LOG_ERROR, Receive);
 }
 
 TEST_F(Conversion, FromKnxGivesTheSameResultsWhileLoggingIsOff) {
-  for (const Outcome& row : Outcomes) {
-    SCOPED_TRACE(row.name);
-    LogCapture capture(ULO_LOG_OFF);
-    KNXDPT dpt = row.dpt;
-    ULOVALUE value(row.wanted);
-    EXPECT_EQ(m_facade.FromKnxValue(dpt, row.received, value), row.result);
-    EXPECT_TRUE(capture.Lines().empty());
-  }
+  ExpectOutcomes(m_facade, Outcomes, ULO_LOG_OFF, Receive);
 }
 
 struct Completion {

@@ -8,6 +8,7 @@
 #include <utility>
 #include <vector>
 
+#include "ConverterLines.h"
 #include "KnxValueConverterApi.h"
 #include "LogCapture.h"
 #include "StandardDptTable.h"
@@ -16,6 +17,7 @@ namespace {
 
 using namespace Nelmo;
 using namespace UloDP;
+using TestSupport::FacadeLine;
 using TestSupport::LogCapture;
 using TestSupport::LogLine;
 
@@ -362,8 +364,7 @@ TEST_P(StandardDptTableMissing, YieldsTheEmptyEntry) {
   EXPECT_EQ(&entry, &DptValueMap::GetEmptyEntry());
   EXPECT_EQ(entry.valueType, IVT_ANY);
   EXPECT_NE(dynamic_cast<const KnxConverterDefault*>(entry.GetConverter()), nullptr);
-  EXPECT_EQ(capture.Lines(),
-            (std::vector<LogLine>{{ULO_LOG_ERROR, "KnxValueConverter", "GetEntry", GetParam().message}}));
+  EXPECT_EQ(capture.Lines(), (std::vector<LogLine>{FacadeLine("GetEntry", GetParam().message)}));
 }
 
 INSTANTIATE_TEST_SUITE_P(DefaultMappingTargets, StandardDptTableMissing, ::testing::ValuesIn(MissingMains));
@@ -377,8 +378,8 @@ TEST(StandardDptTable, SendingA64BitValueWithoutDptIsRefusedFor218) {
   EXPECT_EQ(dpt.mainNumber, 218);
   EXPECT_EQ(dpt.subNumber, 0);
   EXPECT_EQ(capture.Lines(), (std::vector<LogLine>{
-                                 {ULO_LOG_ERROR, "KnxValueConverter", "GetEntry", "No Entry found for DPT = 218.0"},
-                                 {ULO_LOG_ERROR, "KnxValueConverter", "ToKnxValue", "No Entry found for DPT = 218.0"},
+                                 FacadeLine("GetEntry", "No Entry found for DPT = 218.0"),
+                                 FacadeLine("ToKnxValue", "No Entry found for DPT = 218.0"),
                              }));
 }
 
@@ -393,8 +394,8 @@ TEST(StandardDptTable, ReceivingA48BitValueWithoutDptIsRefusedFor219) {
   EXPECT_EQ(dpt.mainNumber, 219);
   EXPECT_EQ(dpt.subNumber, 1);
   EXPECT_EQ(capture.Lines(), (std::vector<LogLine>{
-                                 {ULO_LOG_ERROR, "KnxValueConverter", "GetEntry", "No Entry found for DPT = 219.1"},
-                                 {ULO_LOG_ERROR, "KnxValueConverter", "FromKnxValue", "No Entry found for DPT = 219.1"},
+                                 FacadeLine("GetEntry", "No Entry found for DPT = 219.1"),
+                                 FacadeLine("FromKnxValue", "No Entry found for DPT = 219.1"),
                              }));
 }
 
@@ -402,11 +403,10 @@ TEST(StandardDptTable, ARefusedRowIsReportedWithItsLabel) {
   const LogCapture capture;
   StandardDptTable::ReportRow(false, "250.x", 7);
   StandardDptTable::ReportRow(false, "10.1", 8);
-  EXPECT_EQ(capture.Lines(),
-            (std::vector<LogLine>{
-                {ULO_LOG_ERROR, "KnxValueConverter", "FillDptValueMap", "Add DPT value map entry failed. DPT=250.x"},
-                {ULO_LOG_ERROR, "KnxValueConverter", "FillDptValueMap", "Add DPT value map entry failed. DPT=10.1"},
-            }));
+  EXPECT_EQ(capture.Lines(), (std::vector<LogLine>{
+                                 FacadeLine("FillDptValueMap", "Add DPT value map entry failed. DPT=250.x"),
+                                 FacadeLine("FillDptValueMap", "Add DPT value map entry failed. DPT=10.1"),
+                             }));
 }
 
 TEST(StandardDptTable, AnAddedRowIsNotReported) {

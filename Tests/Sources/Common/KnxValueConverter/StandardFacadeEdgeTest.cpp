@@ -5,6 +5,8 @@
 #include <string>
 #include <vector>
 
+#include "ConverterLines.h"
+#include "KnxTestBytes.h"
 #include "KnxValueConverterApi.h"
 #include "LogCapture.h"
 
@@ -13,18 +15,12 @@
 
 namespace {
 
+using KnxTest::Bytes;
+using KnxTest::GroupOf;
 using Nelmo::KnxValueConverter;
+using TestSupport::FacadeLine;
 using TestSupport::LogCapture;
 using TestSupport::LogLine;
-using Bytes = std::vector<unsigned char>;
-
-KnxStack::GroupValue GroupOf(const Bytes& bytes, unsigned int bits) {
-  return KnxStack::GroupValue(KnxStack::BinaryData(bytes.data(), static_cast<unsigned int>(bytes.size())), bits);
-}
-
-LogLine Facade(const char* function, const std::string& text) {
-  return LogLine{ULO_LOG_ERROR, "KnxValueConverter", function, text};
-}
 
 // ---------------------------------------------------------------------------
 // Sending
@@ -52,7 +48,7 @@ TEST(StandardFacadeSend, UInt16WithThreeBitsHasNoDpt) {
   EXPECT_EQ(dpt.mainNumber, 0);
   EXPECT_EQ(dpt.subNumber, 0);
   EXPECT_EQ(capture.Lines(),
-            std::vector<LogLine>{Facade("ToKnxValue", "Convert to KNX value failed. Missing DPT. val = 513")});
+            std::vector<LogLine>{FacadeLine("ToKnxValue", "Convert to KNX value failed. Missing DPT. val = 513")});
 }
 
 TEST(StandardFacadeSend, NoValueTypeReachesTheFloatConverterAsNotANumber) {
@@ -95,7 +91,7 @@ TEST(StandardFacadeSend, AValueThatCannotBeAssignedIsRefusedWithItsOwnType) {
   KnxStack::GroupValue groupValue;
   EXPECT_FALSE(converter.ToKnxValue(dpt, ULOVALUE::Date(2024, 5, 17), groupValue));
   EXPECT_EQ(capture.Lines(),
-            std::vector<LogLine>{Facade("ToKnxValue", "Invalid value type found for DPT = 9.1 val.ivt=11")});
+            std::vector<LogLine>{FacadeLine("ToKnxValue", "Invalid value type found for DPT = 9.1 val.ivt=11")});
 }
 
 TEST(StandardFacadeSend, AMainNumberWithoutRowsIsRefused) {
@@ -104,8 +100,8 @@ TEST(StandardFacadeSend, AMainNumberWithoutRowsIsRefused) {
   const KNXDPT dpt{16, 99, 1};
   KnxStack::GroupValue groupValue;
   EXPECT_FALSE(converter.ToKnxValue(dpt, ULOVALUE::Double(1.0), groupValue));
-  EXPECT_EQ(capture.Lines(), (std::vector<LogLine>{Facade("GetEntry", "No Entry found for DPT = 99.1"),
-                                                   Facade("ToKnxValue", "No Entry found for DPT = 99.1")}));
+  EXPECT_EQ(capture.Lines(), (std::vector<LogLine>{FacadeLine("GetEntry", "No Entry found for DPT = 99.1"),
+                                                   FacadeLine("ToKnxValue", "No Entry found for DPT = 99.1")}));
 }
 
 TEST(StandardFacadeSend, AllResultsStayWhileLoggingIsOff) {
@@ -148,7 +144,7 @@ TEST(StandardFacadeReceive, SixBitsIntoADoubleWithoutDptHaveNoDpt) {
   EXPECT_EQ(dpt.bitSize, 0);
   EXPECT_EQ(dpt.mainNumber, 0);
   EXPECT_EQ(dpt.subNumber, 0);
-  EXPECT_EQ(capture.Lines(), std::vector<LogLine>{Facade(
+  EXPECT_EQ(capture.Lines(), std::vector<LogLine>{FacadeLine(
                                  "FromKnxValue", "Convert from KNX value failed. Missing DPT. GroupValue = 21")});
 }
 
@@ -187,9 +183,9 @@ TEST(StandardFacadeReceive, FourBitsReachTheSwitchUnchangedAndItsExceptionIsCaug
   const KNXDPT dpt{1, 1, 0};
   ULOVALUE value;
   EXPECT_TRUE(converter.FromKnxValue(dpt, GroupOf({0x01}, 4), value));
-  EXPECT_EQ(capture.Lines(), std::vector<LogLine>{Facade("FromKnxValue",
-                                                         "Exception caught during conversion of GroupValue: "
-                                                         "GroupValue: expected 1 bits, defined size is 4")});
+  EXPECT_EQ(capture.Lines(), std::vector<LogLine>{FacadeLine("FromKnxValue",
+                                                             "Exception caught during conversion of GroupValue: "
+                                                             "GroupValue: expected 1 bits, defined size is 4")});
 }
 
 struct MismatchRow {
@@ -231,7 +227,7 @@ TEST(StandardFacadeReceive, SizeMismatchesAreRefusedAfterTheTypeIsStamped) {
     ULOVALUE value = ULOVALUE::UInt64(7);
     EXPECT_FALSE(converter.FromKnxValue(row.dpt, GroupOf(row.bytes, row.bits), value));
     EXPECT_EQ(value.GetType(), row.stamped);
-    EXPECT_EQ(capture.Lines(), std::vector<LogLine>{Facade("FromKnxValue", row.text)});
+    EXPECT_EQ(capture.Lines(), std::vector<LogLine>{FacadeLine("FromKnxValue", row.text)});
   }
 }
 
@@ -249,10 +245,10 @@ TEST(StandardFacadeAddedRows, VariableLengthTakesAnySizeAndSixBitsGiveAnEmptyVal
   EXPECT_TRUE(capture.Lines().empty());
   EXPECT_FALSE(converter.FromKnxValue(dpt, GroupOf({0x2A}, 6), value));
   EXPECT_EQ(value.GetType(), IVT_ANY);
-  EXPECT_EQ(capture.Lines(),
-            (std::vector<LogLine>{
-                {ULO_LOG_ERROR, "KnxConverter", "FromKnxValue", "ByteArrayToUloValue failed. DPT=24.1 data size =0"},
-                Facade("FromKnxValue", "Convert from KNX value failed for DPT = 24.1 GroupValue = ")}));
+  EXPECT_EQ(
+      capture.Lines(),
+      (std::vector<LogLine>{TestSupport::Error("FromKnxValue", "ByteArrayToUloValue failed. DPT=24.1 data size =0"),
+                            FacadeLine("FromKnxValue", "Convert from KNX value failed for DPT = 24.1 GroupValue = ")}));
 }
 
 TEST(StandardFacadeAddedRows, NoFormatSizeTakesUpToSixBits) {
@@ -266,9 +262,9 @@ TEST(StandardFacadeAddedRows, NoFormatSizeTakesUpToSixBits) {
   EXPECT_EQ(value.GetByte(), 0x2A);
   EXPECT_FALSE(converter.FromKnxValue(dpt, GroupOf({0x2A}, 8), value));
   EXPECT_EQ(capture.Lines(),
-            std::vector<LogLine>{
-                Facade("FromKnxValue",
-                       "Failed to convert a GroupValue for DPT 100.0 because of unexpected bit size: 8, expected: 0")});
+            std::vector<LogLine>{FacadeLine(
+                "FromKnxValue",
+                "Failed to convert a GroupValue for DPT 100.0 because of unexpected bit size: 8, expected: 0")});
 }
 
 }  // namespace

@@ -10,6 +10,7 @@ namespace {
 
 using FacadeTest::Bytes;
 using FacadeTest::Conversion;
+using FacadeTest::ExpectOutcomes;
 using FacadeTest::FacadeLine;
 using FacadeTest::Holds;
 using FacadeTest::IsDpt;
@@ -84,37 +85,22 @@ const Outcome Outcomes[] = {
     {"default DPT of 48 bits has no row", {48, 0, 0}, ULOVALUE::UInt16(1), false, NoEntry("219.1")},
 };
 
+bool Send(const Nelmo::KnxValueConverter& facade, const Outcome& row) {
+  KNXDPT dpt = row.dpt;
+  KnxStack::GroupValue groupValue;
+  return facade.ToKnxValue(dpt, row.value, groupValue);
+}
+
 TEST_F(Conversion, ToKnxResultsAndLines) {
-  for (const Outcome& row : Outcomes) {
-    SCOPED_TRACE(row.name);
-    LogCapture capture;
-    KNXDPT dpt = row.dpt;
-    KnxStack::GroupValue groupValue;
-    EXPECT_EQ(m_facade.ToKnxValue(dpt, row.value, groupValue), row.result);
-    EXPECT_EQ(capture.Lines(), row.lines);
-  }
+  ExpectOutcomes(m_facade, Outcomes, ULO_LOG_TRACE, Send);
 }
 
 TEST_F(Conversion, ToKnxWritesTheSameLinesWithOnlyErrorsActive) {
-  for (const Outcome& row : Outcomes) {
-    SCOPED_TRACE(row.name);
-    LogCapture capture(ULO_LOG_ERROR);
-    KNXDPT dpt = row.dpt;
-    KnxStack::GroupValue groupValue;
-    EXPECT_EQ(m_facade.ToKnxValue(dpt, row.value, groupValue), row.result);
-    EXPECT_EQ(capture.Lines(), row.lines);
-  }
+  ExpectOutcomes(m_facade, Outcomes, ULO_LOG_ERROR, Send);
 }
 
 TEST_F(Conversion, ToKnxGivesTheSameResultsWhileLoggingIsOff) {
-  for (const Outcome& row : Outcomes) {
-    SCOPED_TRACE(row.name);
-    LogCapture capture(ULO_LOG_OFF);
-    KNXDPT dpt = row.dpt;
-    KnxStack::GroupValue groupValue;
-    EXPECT_EQ(m_facade.ToKnxValue(dpt, row.value, groupValue), row.result);
-    EXPECT_TRUE(capture.Lines().empty());
-  }
+  ExpectOutcomes(m_facade, Outcomes, ULO_LOG_OFF, Send);
 }
 
 struct Completion {
@@ -252,21 +238,19 @@ TEST_F(Conversion, ToKnxHandsTheConverterTheValueOrItsConversion) {
 
 TEST_F(Conversion, ToKnxNeverChangesTheCallersValue) {
   LogCapture capture(ULO_LOG_OFF);
-  for (const Passing& row : Passings) {
+  const auto expectUnchanged = [this](const auto& row) {
     SCOPED_TRACE(row.name);
     KNXDPT dpt = row.dpt;
     const ULOVALUE before = row.value;
     KnxStack::GroupValue groupValue;
     m_facade.ToKnxValue(dpt, before, groupValue);
     EXPECT_TRUE(SameValue(before, row.value));
+  };
+  for (const Passing& row : Passings) {
+    expectUnchanged(row);
   }
   for (const Outcome& row : Outcomes) {
-    SCOPED_TRACE(row.name);
-    KNXDPT dpt = row.dpt;
-    const ULOVALUE before = row.value;
-    KnxStack::GroupValue groupValue;
-    m_facade.ToKnxValue(dpt, before, groupValue);
-    EXPECT_TRUE(SameValue(before, row.value));
+    expectUnchanged(row);
   }
 }
 
