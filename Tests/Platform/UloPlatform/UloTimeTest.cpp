@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <ostream>
 
 #include "UloTime.h"
@@ -144,33 +145,28 @@ TEST(UloTime, ClearZeroesEveryFieldAndSetsTheFlagAsGiven) {
 TEST(UloTime, EqualityComparesEveryField) {
   const ULOTIME base = FullyFilled();
   EXPECT_EQ(base, FullyFilled());
-  ULOTIME other = base;
-  other.year = 2025;
-  EXPECT_NE(base, other);
-  other = base;
-  other.month = 3;
-  EXPECT_NE(base, other);
-  other = base;
-  other.day = 1;
-  EXPECT_NE(base, other);
-  other = base;
-  other.hour = 0;
-  EXPECT_NE(base, other);
-  other = base;
-  other.minute = 0;
-  EXPECT_NE(base, other);
-  other = base;
-  other.second = 0;
-  EXPECT_NE(base, other);
-  other = base;
-  other.weekday = ULO::Weekdays::Friday;
-  EXPECT_NE(base, other);
-  other = base;
-  other.summerTime = 0;
-  EXPECT_NE(base, other);
-  other = base;
-  other.isSet = false;
-  EXPECT_NE(base, other);
+  // Each row changes one field of the base.
+  struct Row {
+    const char* field;
+    std::function<void(ULOTIME&)> change;
+  };
+  const Row rows[] = {
+      {"year", [](ULOTIME& time) { time.year = 2025; }},
+      {"month", [](ULOTIME& time) { time.month = 3; }},
+      {"day", [](ULOTIME& time) { time.day = 1; }},
+      {"hour", [](ULOTIME& time) { time.hour = 0; }},
+      {"minute", [](ULOTIME& time) { time.minute = 0; }},
+      {"second", [](ULOTIME& time) { time.second = 0; }},
+      {"weekday", [](ULOTIME& time) { time.weekday = ULO::Weekdays::Friday; }},
+      {"summerTime", [](ULOTIME& time) { time.summerTime = 0; }},
+      {"isSet", [](ULOTIME& time) { time.isSet = false; }},
+  };
+  for (const Row& row : rows) {
+    SCOPED_TRACE(row.field);
+    ULOTIME other = base;
+    row.change(other);
+    EXPECT_NE(base, other);
+  }
 }
 
 }  // namespace
