@@ -39,6 +39,31 @@ inline ULOVALUE ValueOf(UloValueType type, const ULOTIME& time) {
   return value;
 }
 
+// Receiving: the bus bytes, the result, the date and time the value holds
+// afterwards and the lines written.
+struct ReceiveRow {
+  const char* name;
+  Bytes bytes;
+  bool result;
+  ULOTIME time;
+  std::vector<LogLine> log;
+};
+
+inline void PrintTo(const ReceiveRow& row, std::ostream* out) {
+  *out << row.name;
+}
+
+// A group value of the wrong size or with too few bytes.
+struct WrongSizeRow {
+  const char* name;
+  Bytes bytes;
+  unsigned int bits;
+};
+
+inline void PrintTo(const WrongSizeRow& row, std::ostream* out) {
+  *out << row.name;
+}
+
 // Sends the value and checks the row's result, bytes and lines; a refusal
 // leaves the group value empty.
 template <typename Row>

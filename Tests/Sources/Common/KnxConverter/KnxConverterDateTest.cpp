@@ -77,18 +77,6 @@ INSTANTIATE_TEST_SUITE_P(Rows, KnxConverterDateSend, testing::ValuesIn(sendRows)
 
 // Receiving: bus bytes -> date, or the refusal. The output starts with a
 // full date and time; a success clears it before the date is set.
-struct ReceiveRow {
-  const char* name;
-  Bytes bytes;
-  bool result;
-  ULOTIME time;
-  std::vector<LogLine> log;
-};
-
-void PrintTo(const ReceiveRow& row, std::ostream* out) {
-  *out << row.name;
-}
-
 const ULOTIME before{2001, 2, 3, 4, 5, 6, ULO::Weekdays::Saturday, 1, false};
 
 const ReceiveRow receiveRows[] = {
@@ -148,16 +136,6 @@ TEST(KnxConverterDate, DayThatDoesNotFitItsBitsIsCaughtOnSend) {
       converter.ToKnxValue(Dpt11, ValueOf(IVT_DATE, ULOTIME{2024, 1, 40, 0, 0, 0, NoWeekday, 0, true}), groupValue));
   EXPECT_EQ(capture.Lines(),
             std::vector<LogLine>{Error("ToKnxValue", "Exception caught during conversion of date: " + stackText)});
-}
-
-struct WrongSizeRow {
-  const char* name;
-  Bytes bytes;
-  unsigned int bits;
-};
-
-void PrintTo(const WrongSizeRow& row, std::ostream* out) {
-  *out << row.name;
 }
 
 const WrongSizeRow wrongSizeRows[] = {

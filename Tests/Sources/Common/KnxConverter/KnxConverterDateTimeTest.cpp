@@ -171,18 +171,6 @@ INSTANTIATE_TEST_SUITE_P(Rows, KnxConverterDateTimeDoesNotFit, testing::ValuesIn
 // set flag and summer time are always written.
 const ULOTIME before{2001, 2, 3, 4, 5, 6, W::Saturday, 1, false};
 
-struct ReceiveRow {
-  const char* name;
-  Bytes bytes;
-  bool result;
-  ULOTIME time;
-  std::vector<LogLine> log;
-};
-
-void PrintTo(const ReceiveRow& row, std::ostream* out) {
-  *out << row.name;
-}
-
 const std::string InvalidTime = "Cannot convert invalid time in DateTime structure: hour=";
 
 const ReceiveRow receiveRows[] = {
@@ -318,16 +306,6 @@ INSTANTIATE_TEST_SUITE_P(Rows, KnxConverterDateTimeReceive, testing::ValuesIn(re
 
 // A group value of the wrong size makes the stack throw; the converter
 // catches it, reports it and leaves the output alone.
-struct WrongSizeRow {
-  const char* name;
-  Bytes bytes;
-  unsigned int bits;
-};
-
-void PrintTo(const WrongSizeRow& row, std::ostream* out) {
-  *out << row.name;
-}
-
 const WrongSizeRow wrongSizeRows[] = {
     {"TwentyFourBits", {0x7C, 0x05, 0x1E}, 24},
     {"ShortPayload", {0x7C, 0x05, 0x1E, 0x8C, 0x1E, 0x0F, 0x00}, 64},
