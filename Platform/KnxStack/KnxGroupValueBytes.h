@@ -40,11 +40,12 @@ inline const unsigned char* GroupValue::Payload(unsigned int formatBits) const {
 // Every fixed format fits the inline bytes, so no buffer is built and moved.
 inline void GroupValue::Store(const unsigned char* bytes, unsigned int formatBits) {
   const unsigned int count = GroupValueBytes::ByteCount(formatBits);
-  unsigned char* target = m_data.ResetInline(count);
+  unsigned char* target = m_data.InlineBytes();
   for (unsigned int i = 0; i < count; ++i) {
     target[i] = bytes[i];
   }
   m_definedSize = formatBits;
+  m_data.CommitInline(count);
 }
 
 inline std::uint32_t GroupValue::ReadUnsigned(unsigned int formatBits) const {
@@ -60,16 +61,17 @@ inline std::uint32_t GroupValue::ReadUnsigned(unsigned int formatBits) const {
 }
 
 inline void GroupValue::WriteUnsigned(std::uint32_t value, unsigned int formatBits) {
+  unsigned char* target = m_data.InlineBytes();
+  const unsigned int count = GroupValueBytes::ByteCount(formatBits);
   if (formatBits <= GroupValueBytes::SmallValueBits) {
-    *m_data.ResetInline(1) = static_cast<unsigned char>(value & GroupValueBytes::SmallValueMask);
+    target[0] = static_cast<unsigned char>(value & GroupValueBytes::SmallValueMask);
   } else {
-    const unsigned int count = formatBits / 8;
-    unsigned char* target = m_data.ResetInline(count);
     for (unsigned int i = 0; i < count; ++i) {
       target[i] = static_cast<unsigned char>(value >> (8 * (count - 1 - i)));
     }
   }
   m_definedSize = formatBits;
+  m_data.CommitInline(count);
 }
 
 }  // namespace KnxStack

@@ -89,10 +89,11 @@ int Float16Exponent(double hundredths) {
 }
 
 std::uint16_t EncodeFloat16(double value) {
-  if (std::isnan(value)) {
-    return Float16Invalid;
-  }
+  // NaN fails the range test too; only then is it told apart.
   if (!(value >= Float16Min && value <= Float16Max)) {
+    if (std::isnan(value)) {
+      return Float16Invalid;
+    }
     ThrowFloat16OutOfRange(value);
   }
   const double hundredths = value * 100.0;

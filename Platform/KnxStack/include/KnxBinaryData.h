@@ -65,17 +65,18 @@ class BinaryData {
 
   unsigned char* MutableData() { return m_heap ? m_heap.get() : m_inline; }
   void CopyFrom(const unsigned char* data, unsigned int length);
-  // Room for length bytes, at most InlineCapacity, for the caller to fill;
-  // the previous contents are dropped.
-  unsigned char* ResetInline(unsigned int length) {
+  // Fixed-size payloads are written into the inline bytes and then
+  // committed: the first length bytes, at most InlineCapacity, become the
+  // payload. A heap payload is released last, so that the call to the
+  // deallocator, which fixed-size payloads never need, costs them no stack
+  // frame.
+  unsigned char* InlineBytes() { return m_inline; }
+  void CommitInline(unsigned int length) {
+    m_length = length;
     if (m_heap) {
       ReleaseHeap();
     }
-    m_length = length;
-    return m_inline;
   }
-  // Out of line: fixed-size payloads never get here, and a call to the
-  // deallocator in their path would cost them a stack frame.
   void ReleaseHeap();
 
   // Payloads of up to InlineCapacity bytes live in m_inline and m_heap is
