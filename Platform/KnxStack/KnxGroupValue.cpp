@@ -30,7 +30,7 @@ constexpr unsigned int String14Bytes = 14;
 // Two's complement without relying on implementation-defined narrowing.
 template <typename Signed, typename Unsigned>
 Signed ToSigned(Unsigned value) {
-  constexpr Unsigned maxPositive = static_cast<Unsigned>(std::numeric_limits<Signed>::max());
+  constexpr auto maxPositive = static_cast<Unsigned>(std::numeric_limits<Signed>::max());
   if (value <= maxPositive) {
     return static_cast<Signed>(value);
   }
@@ -39,6 +39,7 @@ Signed ToSigned(Unsigned value) {
 
 }  // namespace
 
+// NOLINTNEXTLINE(modernize-pass-by-value): the stack's interface takes the data by const reference
 GroupValue::GroupValue(const BinaryData& data, unsigned int sizeInBits) : m_data(data), m_definedSize(sizeInBits) {
   if (sizeInBits <= SmallValueBits && !m_data.IsEmpty()) {
     m_data.MutableData()[0] &= SmallValueMask;

@@ -398,7 +398,7 @@ std::string FormatDouble(double value) {
     result.append(digits).append(static_cast<std::size_t>(exponent) + 1 - digits.size(), '0');
   } else {
     const auto point = static_cast<std::size_t>(exponent) + 1;
-    result.append(digits, 0, point).append(".").append(digits, point, std::string::npos);
+    result.append(digits, 0, point).append(".").append(digits, point);
   }
   return result;
 }

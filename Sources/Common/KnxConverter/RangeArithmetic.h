@@ -30,8 +30,10 @@ Int TruncateSaturated(double x) {
   static_assert(std::is_integral<Int>::value, "integer target");
   constexpr Int lowest = std::numeric_limits<Int>::min();
   constexpr Int highest = std::numeric_limits<Int>::max();
-  // 2^digits, the first value above highest; exact in a double.
-  constexpr double limit = static_cast<double>(highest / 2 + 1) * 2.0;
+  // 2^digits, the first value above highest; exact in a double. Halved
+  // first, so that the integer arithmetic does not overflow.
+  constexpr Int halfLimit = highest / 2 + 1;
+  constexpr double limit = static_cast<double>(halfLimit) * 2.0;
   if (std::isnan(x)) {
     return 0;
   }

@@ -177,7 +177,7 @@ bool Receive(const KnxValueConverter& facade, KNXDPT& dpt, const KnxStack::Group
     return false;
   }
   value.SetType(entry->valueType);
-  const std::uint32_t expected = static_cast<std::uint32_t>(KnxDptFormat::GetBitSize(dpt));
+  const auto expected = static_cast<std::uint32_t>(KnxDptFormat::GetBitSize(dpt));
   const std::uint32_t defined = groupValue.GetDefinedSize();
   const bool mismatch =
       expected <= ControlFieldBits ? defined > ControlFieldBits : expected != defined && expected != VariableLength;
@@ -381,6 +381,7 @@ bool KnxValueConverter::ToKnxValue(const KNXDPT& dpt, const ULOVALUE& value, Knx
   bool result = true;
   try {
     // Callers rely on seeing the DPT chosen for them in their own object.
+    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-const-cast): the completed DPT is written back on purpose
     Send(*this, const_cast<KNXDPT&>(dpt), value, groupValue, result);
   } catch (const KnxStack::GroupValueException& exception) {
     // The result stays as it was: true unless a failure was being reported.
@@ -394,6 +395,7 @@ bool KnxValueConverter::ToKnxValue(const KNXDPT& dpt, const ULOVALUE& value, Knx
 bool KnxValueConverter::FromKnxValue(const KNXDPT& dpt, const KnxStack::GroupValue& groupValue, ULOVALUE& value) const {
   bool result = true;
   try {
+    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-const-cast): as in ToKnxValue
     Receive(*this, const_cast<KNXDPT&>(dpt), groupValue, value, result);
   } catch (const KnxStack::GroupValueException& exception) {
     Log::Write(ULO_LOG_ERROR, Log::FacadeFile, FromKnxFunction, __LINE__, [&](std::ostream& out) {

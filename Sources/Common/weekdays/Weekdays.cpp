@@ -36,8 +36,8 @@ Weekdays::Weekdays(Days days) : bits(days) {}
 
 Weekdays::Weekdays(unsigned int bits) : bits(bits) {}
 
-Weekdays& Weekdays::operator=(unsigned int value) {
-  bits = value;
+Weekdays& Weekdays::operator=(unsigned int bits) {
+  this->bits = bits;
   return *this;
 }
 

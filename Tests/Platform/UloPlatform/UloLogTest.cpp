@@ -179,6 +179,7 @@ constexpr int MessagesPerThread = 250;
 TEST_F(UloLogFixture, SeveralThreadsLogThroughTheSink) {
   TestSupport::LogCapture capture;
   std::vector<std::thread> threads;
+  threads.reserve(ThreadCount);
   for (int t = 0; t < ThreadCount; ++t) {
     threads.emplace_back([t] {
       const std::string function = "Thread" + std::to_string(t);
@@ -212,6 +213,7 @@ TEST_F(UloLogFixture, SinkCanBeReplacedWhileThreadsLog) {
   };
   UloLogSetSink(counter(first));
   std::vector<std::thread> threads;
+  threads.reserve(ThreadCount);
   for (int t = 0; t < ThreadCount; ++t) {
     threads.emplace_back([] {
       for (int m = 0; m < MessagesPerThread; ++m) {
@@ -251,7 +253,7 @@ TEST(UloLogEnvironment, VariableSetsTheThresholdAtFirstUse) {
   if (text == nullptr) {
     GTEST_SKIP() << "runs from CTest with ULO_LOG_LEVEL set";
   }
-  const auto row =
+  const auto* const row =
       std::find_if(std::begin(environmentRows), std::end(environmentRows),
                    [text](const EnvironmentRow& candidate) { return std::strcmp(candidate.text, text) == 0; });
   ASSERT_NE(row, std::end(environmentRows)) << "no expectation for ULO_LOG_LEVEL=" << text;

@@ -76,6 +76,7 @@ TEST(StandardTableConcurrency, FourThreadsConvertEveryRowBothWays) {
   ASSERT_EQ(expected.size(), 48u);
   std::vector<int> mismatches(ThreadCount, -1);
   std::vector<std::thread> threads;
+  threads.reserve(ThreadCount);
   for (int t = 0; t < ThreadCount; ++t) {
     threads.emplace_back(
         [&, t] { mismatches[static_cast<std::size_t>(t)] = ConvertRepeatedly(converter, expected, t); });
