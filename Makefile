@@ -11,7 +11,7 @@ PACKAGES := g++ cmake make googletest libgtest-dev libgmock-dev libhowardhinnant
 
 .PHONY: all deps demo test test-host test-armhf test-asan test-fuzz test-valgrind \
         build-host build-armhf build-asan build-fuzz fuzz tsan bench instructions clean \
-        test-consumer check-includes format-check package test-packages test-external
+        test-consumer check-includes format-check package test-packages test-external lint
 
 all: build-host
 
@@ -87,6 +87,11 @@ check-includes:
 
 format-check:
 	scripts/format-check.sh
+
+# clang-tidy (.clang-tidy) over the project's code in build/host's compile
+# database; any finding fails.
+lint: build-host
+	LINT_JOBS=$(JOBS) scripts/lint.sh build/host
 
 # KNXCONV_PLATFORM=external, with build/host's substitutes posing as the real
 # platform libraries.
