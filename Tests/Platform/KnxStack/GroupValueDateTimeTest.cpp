@@ -110,7 +110,7 @@ void ExpectTimeRead(const TimeRow& row) {
   int hour = -1;
   int minute = -1;
   int second = -1;
-  DayOfWeek dayOfWeek = static_cast<DayOfWeek>(6);
+  auto dayOfWeek = static_cast<DayOfWeek>(6);
   Received(row.bytes, 24).GetAsTimeOfDay(&hour, &minute, &second, &dayOfWeek);
   EXPECT_EQ(hour, row.hour);
   EXPECT_EQ(minute, row.minute);

@@ -118,7 +118,7 @@ struct RangeErrorRow {
 class Float16RangeError : public testing::TestWithParam<RangeErrorRow> {};
 
 TEST_P(Float16RangeError, ThrowsAndKeepsTheValue) {
-  ExpectRefused([this](GroupValue& value) { value.SetAsFloat16(GetParam().value); }, GetParam().what);
+  ExpectRefused([](GroupValue& value) { value.SetAsFloat16(GetParam().value); }, GetParam().what);
 }
 
 INSTANTIATE_TEST_SUITE_P(

@@ -145,7 +145,7 @@ TEST(FloatRange, NotANumberIsNeverInRangeAndPassesFitToRange) {
 }
 
 TEST(FloatRange, ConversionsLogNothing) {
-  const FloatRange range = FilledRange<FloatRange>({5.0, 5.0, 0.0, 1.0});
+  const auto range = FilledRange<FloatRange>({5.0, 5.0, 0.0, 1.0});
   LogCapture capture;
   double value = 0.0;
   EXPECT_FALSE(range.FitToRange(value));

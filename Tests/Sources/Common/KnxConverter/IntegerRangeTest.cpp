@@ -86,7 +86,7 @@ TEST(IntegerRange, NoMessageWhenErrorsAreNotLogged) {
 }
 
 TEST(IntegerRange, EqualRangesMapEveryValueToItself) {
-  const IntegerRange range = FilledRange<IntegerRange>({-128, 127, -128, 127});
+  const auto range = FilledRange<IntegerRange>({-128, 127, -128, 127});
   for (std::int32_t value = -128; value <= 127; ++value) {
     EXPECT_EQ(range.ScaleTo(value), value);
     EXPECT_EQ(range.ScaleFrom(value), value);
@@ -204,7 +204,7 @@ TEST(IntegerRange, FitToRangeOfAPlainLong) {
 }
 
 TEST(IntegerRange, ConversionsLogNothing) {
-  const IntegerRange range = FilledRange<IntegerRange>({5, 5, 0, 10});
+  const auto range = FilledRange<IntegerRange>({5, 5, 0, 10});
   LogCapture capture;
   std::int32_t value = 100;
   range.FitToRange(value);

@@ -174,7 +174,7 @@ TEST(LongIntegerRange, FitToRangeOfAPlainLongLong) {
 }
 
 TEST(LongIntegerRange, ConversionsLogNothing) {
-  const LongIntegerRange range = FilledRange<LongIntegerRange>({MaxU32, MaxU32, 0, 1});
+  const auto range = FilledRange<LongIntegerRange>({MaxU32, MaxU32, 0, 1});
   LogCapture capture;
   std::int64_t value = 0;
   EXPECT_FALSE(range.FitToRange(value));

@@ -167,7 +167,7 @@ TEST(UnsignedLongIntegerRange, FitToRangeOfAPlainUnsignedLongLong) {
 }
 
 TEST(UnsignedLongIntegerRange, ConversionsLogNothing) {
-  const UnsignedLongIntegerRange range = FilledRange<UnsignedLongIntegerRange>({10, 5, 0, 100});
+  const auto range = FilledRange<UnsignedLongIntegerRange>({10, 5, 0, 100});
   LogCapture capture;
   std::uint64_t value = 0;
   EXPECT_FALSE(range.FitToRange(value));
