@@ -207,15 +207,20 @@ bool KnxConverterDateTime::FromKnxValue(const KNXDPT& /*dpt*/, const KnxStack::G
     int minute = 0;
     int second = 0;
     DayOfWeek dayOfWeek = KnxStack::GroupValue::NoDay;
+    bool fault = false;
+    bool workingDay = false;
+    bool noWorkingDay = true;
     bool noYear = false;
     bool noDate = false;
     bool noDayOfWeek = false;
     bool noTime = false;
     bool summerTime = false;
-    // Fault, working day, no working day and clock quality are not used on
-    // the way in, so they are not asked for.
-    groupValue.GetAsDateTime(&day, &month, &year, &hour, &minute, &second, &dayOfWeek, nullptr, nullptr, nullptr,
-                             &noYear, &noDate, &noDayOfWeek, &noTime, &summerTime, nullptr);
+    bool clockQuality = false;
+    // Every output gets an address: the stack's accessor is not promised to
+    // accept null flags. Fault, working day, no working day and clock
+    // quality are read and then not used.
+    groupValue.GetAsDateTime(&day, &month, &year, &hour, &minute, &second, &dayOfWeek, &fault, &workingDay,
+                             &noWorkingDay, &noYear, &noDate, &noDayOfWeek, &noTime, &summerTime, &clockQuality);
 
     // Fields the sender marks as absent keep what the value held before.
     ULOTIME& time = value.GetTime();
