@@ -209,6 +209,7 @@ DateTimeRow GetDateTime(const GroupValue& value) {
   read.flags.fill(true);
   Flags& f = read.flags;
   value.GetAsDateTime(&read.day, &read.month, &read.year, &read.hour, &read.minute, &read.second, &read.dayOfWeek,
+                      // NOLINTNEXTLINE(readability-container-data-pointer): one flag per parameter
                       &f[0], &f[1], &f[2], &f[3], &f[4], &f[5], &f[6], &f[7], &f[8]);
   return read;
 }

@@ -162,7 +162,7 @@ TEST(GroupValue, SetterReplacesRawDataAndSize) {
 
 TEST(GroupValue, CopyKeepsBytesAndSize) {
   const GroupValue original = Received("0C 33", 16);
-  const GroupValue copy(original);
+  const GroupValue copy(original);  // NOLINT(performance-unnecessary-copy-initialization): the copy is under test
   GroupValue assigned;
   assigned = original;
   EXPECT_EQ(copy.GetRawData(), original.GetRawData());

@@ -90,7 +90,8 @@ TEST_P(KnxConverterDateAndTime, CloneIsOfTheSameClassAndIndependent) {
   std::unique_ptr<Nelmo::KnxConverter> clone(row.converter->Clone());
   ASSERT_NE(clone, nullptr);
   EXPECT_NE(clone.get(), row.converter);
-  EXPECT_EQ(typeid(*clone), typeid(*row.converter));
+  const Nelmo::KnxConverter& cloned = *clone;
+  EXPECT_EQ(typeid(cloned), typeid(*row.converter));
 
   KnxStack::GroupValue fromClone;
   EXPECT_TRUE(clone->ToKnxValue(row.dpt, ValueOf(row.type, row.accepted), fromClone));

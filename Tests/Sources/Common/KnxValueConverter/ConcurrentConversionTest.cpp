@@ -115,6 +115,7 @@ TEST(ConcurrentConversion, SeveralThreadsConvertThroughOneFacade) {
   std::atomic<int> ready{0};
   std::vector<std::vector<std::string>> failures(ThreadCount);
   std::vector<std::thread> threads;
+  threads.reserve(ThreadCount);
   for (int index = 0; index < ThreadCount; ++index) {
     threads.emplace_back([&facade, &ready, &threadFailures = failures[index]] {
       ++ready;

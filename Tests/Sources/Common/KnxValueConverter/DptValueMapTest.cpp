@@ -201,7 +201,7 @@ TEST(DptValueEntryOwnership, MovingHandsTheConverterOnAndLeavesNullBehind) {
   DptValueEntry source = RecordingEntry(KNXDPT{16, 9, 1}, UloDP::IVST_TEMPERATURE, script);
   Nelmo::KnxConverter* converter = source.GetConverter();
   DptValueEntry moved(std::move(source));
-  EXPECT_EQ(source.GetConverter(), nullptr);
+  EXPECT_EQ(source.GetConverter(), nullptr);  // NOLINT(bugprone-use-after-move): the moved-from state is under test
   EXPECT_EQ(moved.GetConverter(), converter);
   EXPECT_EQ(moved.dpt.mainNumber, 9);
   EXPECT_EQ(moved.dpt.subNumber, 1);
@@ -210,7 +210,7 @@ TEST(DptValueEntryOwnership, MovingHandsTheConverterOnAndLeavesNullBehind) {
 
   DptValueEntry assigned;
   assigned = std::move(moved);
-  EXPECT_EQ(moved.GetConverter(), nullptr);
+  EXPECT_EQ(moved.GetConverter(), nullptr);  // NOLINT(bugprone-use-after-move): as above
   EXPECT_EQ(assigned.GetConverter(), converter);
   EXPECT_EQ(script->clonesAlive, 1);
 }
