@@ -98,7 +98,7 @@ lint: build-host
 test-external: build-host
 	scripts/test-external-platform.sh build/host build/external
 
-test: test-host test-armhf test-asan test-fuzz test-valgrind test-consumer check-includes format-check test-external
+test: test-host test-armhf test-asan test-fuzz test-valgrind test-consumer check-includes format-check test-external lint
 
 # Debian packages for amd64 and armhf (cross build) in build/packages.
 build/package-amd64/CMakeCache.txt:
