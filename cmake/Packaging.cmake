@@ -86,6 +86,28 @@ knxconv_debian_package(DEV libknxvalueconverter-dev libdevel FILES "${_runtime} 
 knxconv_debian_package(TOOL knxconv utils BINARY "${_runtime} ${_exact}")
 knxconv_debian_package(PLATFORM libknxvalueconverter-platform libs BINARY)
 
+# Each package carries the licence as /usr/share/doc/<package>/copyright,
+# in Debian's machine-readable form (MIT is "Expat" there).
+file(READ ${PROJECT_SOURCE_DIR}/LICENSE _license)
+string(REGEX REPLACE "\n+$" "" _license "${_license}")
+string(REGEX REPLACE "\n\n" "\n.\n" _license "${_license}")
+string(REGEX REPLACE "\n" "\n " _license "${_license}")
+set(_copyright ${PROJECT_BINARY_DIR}/copyright)
+file(WRITE ${_copyright} "Format: https://www.debian.org/doc/packaging-manuals/copyright-format/1.0/
+Upstream-Name: KnxValueConverter
+
+Files: *
+Copyright: 2026 The KnxValueConverter developers
+License: Expat
+ ${_license}
+")
+foreach(_component IN LISTS CPACK_COMPONENTS_ALL)
+  string(TOUPPER ${_component} _upper)
+  install(FILES ${_copyright} DESTINATION ${CMAKE_INSTALL_DATAROOTDIR}/doc/${CPACK_DEBIAN_${_upper}_PACKAGE_NAME}
+          COMPONENT ${_component})
+endforeach()
+set(CPACK_RESOURCE_FILE_LICENSE ${PROJECT_SOURCE_DIR}/LICENSE)
+
 set(CPACK_COMPONENT_RUNTIME_DESCRIPTION "KNX value converter library
  Converts the server platform's generic values to and from KNX group
  values, driven by a table of KNX datapoint types.")
