@@ -19,6 +19,24 @@ else()
   set(KNXCONV_PC_INCLUDEDIR "\${prefix}/${CMAKE_INSTALL_INCLUDEDIR}")
 endif()
 
+# knxconv_install_rpath(<variable> <destination>): the RPATH for a file
+# installed into <destination> (relative to the prefix) that needs this
+# project's libraries. Under a private prefix it points from the file's own
+# place to the library directory, so that the prefix may move; under /usr
+# (the Debian packages) the loader finds them anyway and it stays empty.
+function(knxconv_install_rpath variable destination)
+  set(_rpath "")
+  if(NOT CMAKE_INSTALL_PREFIX STREQUAL "/usr")
+    get_filename_component(_from "${destination}" ABSOLUTE BASE_DIR "${CMAKE_INSTALL_PREFIX}")
+    file(RELATIVE_PATH _path "${_from}" "${CMAKE_INSTALL_FULL_LIBDIR}")
+    set(_rpath "$ORIGIN")
+    if(_path)
+      string(APPEND _rpath "/${_path}")
+    endif()
+  endif()
+  set(${variable} "${_rpath}" PARENT_SCOPE)
+endfunction()
+
 # knxconv_install_pkgconfig(<name> <component> DESCRIPTION <text>
 #   [REQUIRES <module>...] [CFLAGS <flag>...] [LIBS <flag>...])
 # The prefix is written at install time, so that the file is right for
