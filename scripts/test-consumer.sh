@@ -2,7 +2,9 @@
 # The converter library as a server developer uses it: a separate project
 # (Tests/Consumer) finds the installed package with CMake, and the same
 # program is built with the flags of pkg-config; both convert 21.5 as DPT
-# 9.001 to the bus bytes 0C 33 and back.
+# 9.001 to the bus bytes 0C 33 and back. The README's custom-row example is
+# built against the package and run, and so is the installed knxconv, with no
+# library path set (it must find its library by itself).
 #
 #   scripts/test-consumer.sh <build-dir> [<work-dir>]
 #       installs <build-dir> into <work-dir>/prefix (default build/consumer)
@@ -29,6 +31,15 @@ else
 fi
 work="$(cd "$work" && pwd)"
 
+# expect_output <what> <expected standard output> <command>...
+expect_output() {
+  local what="$1" expected="$2" output
+  shift 2
+  output="$("$@")" || { echo "FAILED: $what exited with status $?" >&2; exit 1; }
+  [ "$output" = "$expected" ] || { echo "FAILED: $what printed '$output', expected '$expected'" >&2; exit 1; }
+  echo "$what: $output"
+}
+
 echo "== CMake: find_package(KnxValueConverter) in $prefix"
 cmake -S "$root/Tests/Consumer" -B "$work/cmake" -DCMAKE_PREFIX_PATH="$prefix" -DCMAKE_BUILD_TYPE=Release \
   >"$work/cmake-configure.log" || { cat "$work/cmake-configure.log"; exit 1; }
@@ -54,4 +65,15 @@ mkdir -p "$work/pkgconfig"
   -o "$work/pkgconfig/consumer" $libs
 LD_LIBRARY_PATH="$(pkg-config --variable=libdir knxvalueconverter)${LD_LIBRARY_PATH:+:$LD_LIBRARY_PATH}" \
   "$work/pkgconfig/consumer"
+echo "== examples/custom-row against $prefix"
+cmake -S "$root/examples/custom-row" -B "$work/custom-row" -DCMAKE_PREFIX_PATH="$prefix" -DCMAKE_BUILD_TYPE=Release \
+  >"$work/custom-row-configure.log" || { cat "$work/custom-row-configure.log"; exit 1; }
+cmake --build "$work/custom-row" >"$work/custom-row-build.log" 2>&1 || { cat "$work/custom-row-build.log"; exit 1; }
+expect_output "custom-row" "8.003: 1.5 s -> 00 96 -> 1.5 s" "$work/custom-row/custom-row"
+
+knxconv="$prefix/bin/knxconv"
+if [ -n "${build:-}" ] || [ -e "$knxconv" ]; then
+  echo "== $knxconv"
+  expect_output "knxconv encode 9.001 21.5" "0C 33" env -u LD_LIBRARY_PATH "$knxconv" encode 9.001 21.5
+fi
 echo "== consumer test passed"
