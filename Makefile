@@ -5,28 +5,37 @@ JOBS ?= 2
 FUZZ_SECONDS ?= 60
 FUZZ_SECONDS_IN_TEST ?= 10
 CMAKE_FLAGS ?=
-PACKAGES := g++ cmake make googletest libgtest-dev libgmock-dev libhowardhinnant-date-dev \
-            g++-arm-linux-gnueabihf qemu-user libcli11-dev nlohmann-json3-dev \
-            clang libclang-rt-14-dev valgrind libbenchmark-dev clang-format clang-tidy pkgconf dpkg-dev
+# What the library and the tool need to build (make demo); a dependency of
+# the tool joins this list.
+DEMO_PACKAGES = g++ cmake make libhowardhinnant-date-dev libcli11-dev nlohmann-json3-dev
+# Everything else that make test uses.
+PACKAGES = $(DEMO_PACKAGES) googletest libgtest-dev libgmock-dev \
+           g++-arm-linux-gnueabihf qemu-user \
+           clang libclang-rt-14-dev valgrind libbenchmark-dev clang-format clang-tidy pkgconf dpkg-dev
+# The API reference (make docs).
+DOCS_PACKAGES = doxygen
 
-.PHONY: all deps demo test test-host test-armhf test-asan test-fuzz test-valgrind \
+.PHONY: all deps deps-demo deps-docs demo docs test test-host test-armhf test-asan test-fuzz test-valgrind \
         build-host build-armhf build-asan build-fuzz fuzz tsan bench instructions clean \
         test-consumer check-includes format-check package test-packages test-external lint
 
 all: build-host
 
 deps:
-	@missing=""; for p in $(PACKAGES); do \
-	  dpkg-query -W -f='$${Status}' $$p 2>/dev/null | grep -q "ok installed" || missing="$$missing $$p"; \
-	done; \
-	if [ -n "$$missing" ]; then \
-	  echo "Installing:$$missing"; \
-	  SUDO=""; [ "$$(id -u)" = 0 ] || SUDO=sudo; \
-	  $$SUDO apt-get update -qq && DEBIAN_FRONTEND=noninteractive $$SUDO apt-get install -y -qq $$missing; \
-	fi
+	@scripts/install-packages.sh $(PACKAGES)
+
+deps-demo:
+	@scripts/install-packages.sh $(DEMO_PACKAGES)
+
+deps-docs:
+	@scripts/install-packages.sh $(DOCS_PACKAGES)
 
 build/host/CMakeCache.txt:
 	cmake -S . -B build/host -DCMAKE_BUILD_TYPE=RelWithDebInfo $(CMAKE_FLAGS)
+
+# The library and the tool only, as a first run builds them.
+build/demo/CMakeCache.txt:
+	cmake -S . -B build/demo -DCMAKE_BUILD_TYPE=Release -DKNXCONV_BUILD_TESTS=OFF $(CMAKE_FLAGS)
 
 build/armhf/CMakeCache.txt:
 	cmake -S . -B build/armhf -DCMAKE_BUILD_TYPE=RelWithDebInfo \
@@ -58,8 +67,16 @@ build-asan: deps build/asan/CMakeCache.txt
 build-fuzz: deps build/fuzz/CMakeCache.txt
 	cmake --build build/fuzz -j$(JOBS)
 
-demo: build-host
-	./build/host/Tools/knxconv/knxconv trace examples/telegrams.csv || true
+demo: deps-demo build/demo/CMakeCache.txt
+	cmake --build build/demo -j$(JOBS)
+	./build/demo/Tools/knxconv/knxconv trace examples/telegrams.csv || true
+
+# The API reference from the public headers' comments, in build/docs/html;
+# any Doxygen warning fails.
+docs: deps-docs
+	mkdir -p build/docs
+	KNXCONV_VERSION=$$(sed -n 's/^project(KnxValueConverter VERSION \([0-9.]*\).*/\1/p' CMakeLists.txt) \
+	  doxygen docs/Doxyfile
 
 test-host: build-host
 	cd build/host && ctest --output-on-failure -j$(JOBS)
@@ -98,7 +115,7 @@ lint: build-host
 test-external: build-host
 	scripts/test-external-platform.sh build/host build/external
 
-test: test-host test-armhf test-asan test-fuzz test-valgrind test-consumer check-includes format-check test-external lint
+test: test-host test-armhf test-asan test-fuzz test-valgrind test-consumer check-includes format-check test-external lint docs
 
 # Debian packages for amd64 and armhf (cross build) in build/packages.
 build/package-amd64/CMakeCache.txt:
