@@ -21,6 +21,7 @@ class NELMO_EXPORT KnxValueConverter {
   KnxValueConverter(const KnxValueConverter&) = delete;
   KnxValueConverter& operator=(const KnxValueConverter&) = delete;
 
+  // Does nothing; always true.
   bool Init();
   // Rebuilds the table from scratch; always true.
   bool FillDptValueMap();
@@ -28,6 +29,7 @@ class NELMO_EXPORT KnxValueConverter {
   // registered before keeps its first row.
   bool AddDptValueMapEntry(std::uint16_t mainNumber, std::uint16_t subNumber, std::uint8_t bitSize,
                            UloValueType valueType, UloDP::UloValueSubType subType, const KnxConverter& converter);
+  // The row that conversions of dpt use; see DptValueMap::GetEntry.
   const DptValueEntry& GetEntry(const KNXDPT& dpt) const;
   // The table as it stands, for listing its rows.
   const DptValueMap& GetDptValueMap() const { return m_dptValueMap; }
@@ -36,8 +38,11 @@ class NELMO_EXPORT KnxValueConverter {
 
   // A dpt with main number 0 is completed from defaults, and the chosen DPT
   // is written back into the caller's object: pass a non-const KNXDPT, and
-  // do not share such an object between threads.
+  // do not share such an object between threads. KnxStack::GroupValueException
+  // is caught and logged; other exceptions pass through.
   bool ToKnxValue(const KNXDPT& dpt, const ULOVALUE& value, KnxStack::GroupValue& groupValue) const;
+  // As ToKnxValue, the other way. The type of value on entry only picks a
+  // default DPT; after a false result value must not be read.
   bool FromKnxValue(const KNXDPT& dpt, const KnxStack::GroupValue& groupValue, ULOVALUE& value) const;
 
   // Whether a value of type first may reach a converter of a row of type
