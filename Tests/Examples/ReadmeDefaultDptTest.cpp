@@ -133,32 +133,42 @@ Dpt BySize(const std::vector<Cells>& rows, const std::string& type, std::uint8_t
   return std::nullopt;
 }
 
+// Every known value type with every bit size: what the facade chooses
+// against what the README's table says.
+template <typename Actual, typename Expected>
+void CompareEveryTypeAndSize(Actual actual, Expected expected) {
+  for (const auto& [name, type] : KnownTypes()) {
+    for (const std::uint8_t bitSize : BitSizes) {
+      EXPECT_EQ(Show(actual(type, bitSize)), Show(expected(name, bitSize)))
+          << name << " with " << int{bitSize} << " bits";
+    }
+  }
+}
+
 TEST(ReadmeDefaultDpt, ValueTypeTableIsWhatTheFacadeChooses) {
   const std::vector<Cells> rows = TableRows("| Value type | Bit size on entry |");
   ASSERT_FALSE(rows.empty()) << "no value type table in " << KNXCONV_README;
   const Nelmo::KnxValueConverter converter;
-  for (const auto& [name, type] : KnownTypes()) {
-    for (const std::uint8_t bitSize : BitSizes) {
-      KNXDPT dpt{bitSize, 0, 0};
-      ULOVALUE value;
-      value.SetType(type);
-      const Dpt actual = converter.GetDefaultMappingDptForValueType(dpt, value) ? Dpt(dpt) : std::nullopt;
-      EXPECT_EQ(Show(actual), Show(ByValueType(rows, name, bitSize))) << name << " with " << int{bitSize} << " bits";
-    }
-  }
+  CompareEveryTypeAndSize(
+      [&](UloValueType type, std::uint8_t bitSize) {
+        KNXDPT dpt{bitSize, 0, 0};
+        ULOVALUE value;
+        value.SetType(type);
+        return converter.GetDefaultMappingDptForValueType(dpt, value) ? Dpt(dpt) : std::nullopt;
+      },
+      [&](const std::string& name, std::uint8_t bitSize) { return ByValueType(rows, name, bitSize); });
 }
 
 TEST(ReadmeDefaultDpt, BitSizeTableIsWhatTheFacadeChooses) {
   const std::vector<Cells> rows = TableRows("| Bit size | Value type |");
   ASSERT_FALSE(rows.empty()) << "no bit size table in " << KNXCONV_README;
   const Nelmo::KnxValueConverter converter;
-  for (const auto& [name, type] : KnownTypes()) {
-    for (const std::uint8_t bitSize : BitSizes) {
-      KNXDPT dpt{bitSize, 0, 0};
-      const Dpt actual = converter.GetDefaultMappingDptForSize(type, dpt) ? Dpt(dpt) : std::nullopt;
-      EXPECT_EQ(Show(actual), Show(BySize(rows, name, bitSize))) << name << " with " << int{bitSize} << " bits";
-    }
-  }
+  CompareEveryTypeAndSize(
+      [&](UloValueType type, std::uint8_t bitSize) {
+        KNXDPT dpt{bitSize, 0, 0};
+        return converter.GetDefaultMappingDptForSize(type, dpt) ? Dpt(dpt) : std::nullopt;
+      },
+      [&](const std::string& name, std::uint8_t bitSize) { return BySize(rows, name, bitSize); });
 }
 
 }  // namespace
