@@ -10,7 +10,7 @@ jobs="${LINT_JOBS:-2}"
 [ -f "$build/compile_commands.json" ] || { echo "no $build/compile_commands.json: configure $build first" >&2; exit 2; }
 
 # Sources of the project only: not the build tree (GoogleTest built from source).
-files="^$root/(Sources|Platform|Tools|Tests|Benchmarks|Fuzz)/.*${filter}"
+files="^$root/(Sources|Platform|Tools|Tests|Benchmarks|Fuzz|examples)/.*${filter}"
 log="$build/lint.log"
 if command -v run-clang-tidy >/dev/null; then
   status=0
