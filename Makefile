@@ -7,7 +7,7 @@ FUZZ_SECONDS_IN_TEST ?= 10
 CMAKE_FLAGS ?=
 # What the library and the tool need to build (make demo); a dependency of
 # the tool joins this list.
-DEMO_PACKAGES = g++ cmake make libhowardhinnant-date-dev libcli11-dev nlohmann-json3-dev
+DEMO_PACKAGES = g++ cmake make libhowardhinnant-date-dev nlohmann-json3-dev
 # Everything else that make test uses.
 PACKAGES = $(DEMO_PACKAGES) googletest libgtest-dev libgmock-dev \
            g++-arm-linux-gnueabihf qemu-user \

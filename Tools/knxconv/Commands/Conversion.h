@@ -1,0 +1,20 @@
+#pragma once
+
+#include <string>
+
+#include "KnxValueConverterApi.h"
+#include "Output.h"
+
+namespace Knxconv {
+
+// The row the library would use, looked up without the lookup's own log.
+const Nelmo::DptValueEntry& QuietEntry(const Nelmo::KnxValueConverter& converter, const KNXDPT& dpt);
+
+// The DPT as text with the bit size from --bits (0: none given).
+KNXDPT DptWithBits(const std::string& text, int bits);
+
+// Decodes hex payload as result.dpt into result; bits 0 takes the DPT's
+// size. Throws InputError for a payload that is not hex.
+void Decode(const Nelmo::KnxValueConverter& converter, const std::string& payload, int bits, TraceResult& result);
+
+}  // namespace Knxconv
