@@ -28,19 +28,22 @@ if command -v taskset >/dev/null; then
   pin=(taskset -c 0)
 fi
 
-# One run: "SECONDS MAX_RSS_KB", knxconv's own exit status ignored (the
-# example holds telegrams that the library refuses on purpose).
+# One run: "ELAPSED USER SYSTEM MAX_RSS_KB", knxconv's own exit status
+# ignored (the example holds telegrams that the library refuses on purpose).
 run() {
   local report="$out/trace-time.txt"
-  /usr/bin/time -f '%e %M' -o "$report" "${pin[@]}" "$knxconv" trace "$@" "$trace" >/dev/null 2>&1 || true
+  /usr/bin/time -f '%e %U %S %M' -o "$report" "${pin[@]}" "$knxconv" trace "$@" "$trace" >/dev/null 2>&1 || true
   tail -n 1 "$report"
 }
 
-printf '%-8s %12s %14s %12s\n' "output" "seconds" "telegrams/s" "max RSS KB"
+# The rate is per second of CPU time (user + system): on a machine shared
+# with other work the elapsed time says more about the neighbours.
+printf '%-8s %10s %10s %14s %12s\n' "output" "elapsed s" "CPU s" "telegrams/s" "max RSS KB"
 for mode in text json; do
   args=()
   [ "$mode" = json ] && args=(--json)
-  read -r seconds rss < <(run "${args[@]}")
-  rate=$(awk -v n="$telegrams" -v s="$seconds" 'BEGIN { printf "%d", (s > 0 ? n / s : 0) }')
-  printf '%-8s %12s %14s %12s\n' "$mode" "$seconds" "$rate" "$rss"
+  read -r elapsed user system rss < <(run "${args[@]}")
+  cpu=$(awk -v u="$user" -v s="$system" 'BEGIN { printf "%.2f", u + s }')
+  rate=$(awk -v n="$telegrams" -v c="$cpu" 'BEGIN { printf "%d", (c > 0 ? n / c : 0) }')
+  printf '%-8s %10s %10s %14s %12s\n' "$mode" "$elapsed" "$cpu" "$rate" "$rss"
 done
