@@ -67,6 +67,9 @@ CLI::App* AddTrace(CLI::App& app, Options& options) {
   CLI::App* command =
       app.add_subcommand("trace", "Decode a telegram trace: CSV with the header time,source,destination,dpt,payload");
   command->add_option("FILE", options.file, "The trace; - or none reads standard input");
+  command->footer(
+      "Exit status: 0 when every telegram converted, 1 when some telegram did not (its line says why), 2 when the "
+      "trace cannot be read or is not a trace, or the output cannot be written.");
   AddCommonOptions(*command, options);
   return command;
 }

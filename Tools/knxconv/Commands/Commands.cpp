@@ -1,15 +1,21 @@
 #include "Commands.h"
 
+#include <cerrno>
+#include <cstring>
+#include <filesystem>
 #include <fstream>
 #include <optional>
 #include <vector>
 
+#include "CalendarCheck.h"
 #include "DptText.h"
 #include "HexText.h"
 #include "InputError.h"
 #include "KnxValueConverterApi.h"
 #include "LogForwarder.h"
+#include "NumberDisplay.h"
 #include "Output.h"
+#include "PayloadSize.h"
 #include "TraceReader.h"
 #include "ValueText.h"
 
@@ -66,13 +72,30 @@ KNXDPT DptWithBits(const std::string& text, int bits) {
   return dpt;
 }
 
+// Converts the payload, unless it cannot hold the DPT's value: then the
+// reason is the result's error.
 void Decode(const Nelmo::KnxValueConverter& converter, const std::string& payload, int bits, TraceResult& result) {
   const KnxStack::BinaryData data = ParseHex(payload);
+  if (auto error = PayloadSizeError(*result.dpt, static_cast<unsigned int>(bits), data)) {
+    result.error = std::move(*error);
+    return;
+  }
   const KnxStack::GroupValue groupValue(data, GroupValueBits(*result.dpt, bits, data));
   result.converted = converter.FromKnxValue(*result.dpt, groupValue, result.value);
   if (result.converted) {
     result.subType = QuietEntry(converter, *result.dpt).subType;
+    result.text = DisplayText(converter, *result.dpt, result.value, groupValue);
   }
+}
+
+// Why the value read for dpt is not sent, or nullopt: the converters send
+// impossible dates and times as they are given.
+std::optional<std::string> SendError(const Nelmo::KnxValueConverter& converter, const KNXDPT& dpt,
+                                     const ULOVALUE& value) {
+  if (auto error = CalendarError(value)) {
+    return error;
+  }
+  return YearWindowError(dpt, QuietEntry(converter, dpt).GetConverter(), value);
 }
 
 TraceResult DecodeTelegram(const Nelmo::KnxValueConverter& converter, LogForwarder& log, const Telegram& telegram) {
@@ -86,7 +109,7 @@ TraceResult DecodeTelegram(const Nelmo::KnxValueConverter& converter, LogForward
     result.dpt = ParseDpt(telegram.dpt);
     log.TakeErrors();
     Decode(converter, telegram.payload, 0, result);
-    if (!result.converted) {
+    if (!result.converted && result.error.empty()) {
       result.error = log.TakeErrors();
     }
   } catch (const InputError& error) {
@@ -96,6 +119,21 @@ TraceResult DecodeTelegram(const Nelmo::KnxValueConverter& converter, LogForward
     result.error = "not converted";
   }
   return result;
+}
+
+// Opens the trace file; InputError says in the system's words why not.
+void OpenTrace(const std::string& path, std::ifstream& file) {
+  errno = 0;
+  file.open(path, std::ios::binary);
+  int error = errno;
+  std::error_code ignored;
+  // A directory opens like a file and fails only when read.
+  if (file && std::filesystem::is_directory(path, ignored)) {
+    error = EISDIR;
+  } else if (file) {
+    return;
+  }
+  throw InputError("cannot read the trace '" + path + "': " + std::strerror(error != 0 ? error : EIO));
 }
 
 std::vector<TableRow> TableRows(const Nelmo::KnxValueConverter& converter) {
@@ -115,6 +153,10 @@ int RunEncode(const Options& options, std::ostream& out, std::ostream& err) {
   const LogForwarder log(options.logLevel, err);
   const Nelmo::KnxValueConverter converter;
   const ULOVALUE value = ValueToSend(converter, dpt, options);
+  if (const auto error = SendError(converter, dpt, value)) {
+    err << "knxconv: " << *error << '\n';
+    return ExitRefused;
+  }
   KnxStack::GroupValue groupValue;
   if (!converter.ToKnxValue(dpt, value, groupValue)) {
     return ExitRefused;
@@ -131,11 +173,13 @@ int RunDecode(const Options& options, std::ostream& out, std::ostream& err) {
   const LogForwarder log(options.logLevel, err);
   const Nelmo::KnxValueConverter converter;
   Decode(converter, options.value, options.bits, result);
+  if (!result.error.empty()) {
+    err << "knxconv: " << result.error << '\n';
+  }
   if (!result.converted) {
     return ExitRefused;
   }
-  out << (options.json ? JsonLine(DecodeJson(*result.dpt, result.value, result.subType)) : result.value.ToString())
-      << '\n';
+  out << (options.json ? JsonLine(DecodeJson(*result.dpt, result.value, result.subType)) : result.text) << '\n';
   return ExitSuccess;
 }
 
@@ -150,12 +194,10 @@ int RunTable(const Options& options, std::ostream& out, std::ostream& err) {
 int RunTrace(const Options& options, std::istream& in, std::ostream& out, std::ostream& err) {
   std::ifstream file;
   if (options.file != "-") {
-    file.open(options.file, std::ios::binary);
-    if (!file) {
-      throw InputError("cannot read the trace " + options.file);
-    }
+    OpenTrace(options.file, file);
   }
-  TraceReader reader(options.file == "-" ? in : file);
+  std::istream& source = options.file == "-" ? in : file;
+  TraceReader reader(source);
   LogForwarder log(options.logLevel, err);
   const Nelmo::KnxValueConverter converter;
   bool allConverted = true;
@@ -164,6 +206,9 @@ int RunTrace(const Options& options, std::istream& in, std::ostream& out, std::o
     const TraceResult result = DecodeTelegram(converter, log, telegram);
     allConverted = allConverted && result.converted;
     out << (options.json ? JsonLine(TraceJson(result)) : TraceText(result)) << '\n';
+  }
+  if (source.bad()) {
+    throw InputError("cannot read the trace '" + options.file + "' to its end");
   }
   return allConverted ? ExitSuccess : ExitRefused;
 }
