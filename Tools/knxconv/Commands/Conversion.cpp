@@ -49,8 +49,9 @@ void Decode(const Nelmo::KnxValueConverter& converter, const std::string& payloa
   const KnxStack::GroupValue groupValue(data, GroupValueBits(*result.dpt, bits, data));
   result.converted = converter.FromKnxValue(*result.dpt, groupValue, result.value);
   if (result.converted) {
-    result.subType = QuietEntry(converter, *result.dpt).subType;
-    result.text = DisplayText(converter, *result.dpt, result.value, groupValue);
+    const Nelmo::DptValueEntry& entry = QuietEntry(converter, *result.dpt);
+    result.subType = entry.subType;
+    result.text = DisplayText(entry.GetConverter(), *result.dpt, result.value, groupValue);
   }
 }
 
