@@ -2,14 +2,24 @@
 #include <iostream>
 
 #include "CommandLine.h"
-#include "Commands.h"
+#include "OutputContext.h"
+#include "TextEscape.h"
 
 int main(int argc, char** argv) {
+  // The streams then write to the descriptors themselves, so a failed write
+  // fails the stream at once with its errno (stdio would report it later,
+  // without one).
+  std::ios::sync_with_stdio(false);
+  // The output context flushes standard output itself, before each message
+  // and where a command asks for it; a flush by a tied stream would hide a
+  // failed write's errno.
+  std::cin.tie(nullptr);
+  std::cerr.tie(nullptr);
   try {
     return Knxconv::RunCommandLine(argc, argv, std::cin, std::cout, std::cerr);
   } catch (const std::exception& error) {
     // Nothing the library throws is caught by the commands themselves.
-    std::cerr << "knxconv: " << error.what() << '\n';
+    std::cerr << "knxconv: " << Knxconv::EscapeText(error.what()) << '\n';
     return Knxconv::ExitRefused;
   }
 }

@@ -1,0 +1,66 @@
+#include "Conversion.h"
+
+#include "CalendarCheck.h"
+#include "DptText.h"
+#include "HexText.h"
+#include "LogForwarder.h"
+#include "NumberDisplay.h"
+#include "PayloadSize.h"
+
+namespace Knxconv {
+
+namespace {
+
+// Values of up to 6 bits travel inside the telegram's control field.
+constexpr std::int32_t ControlFieldBits = 6;
+
+// The group value's size: as given, else the DPT's format size where that
+// fits the control field, else all the bytes.
+unsigned int GroupValueBits(const KNXDPT& dpt, int bits, const KnxStack::BinaryData& data) {
+  if (bits > 0) {
+    return static_cast<unsigned int>(bits);
+  }
+  const std::int32_t formatBits = Nelmo::KnxDptFormat::GetBitSize(dpt);
+  if (formatBits > 0 && formatBits <= ControlFieldBits) {
+    return static_cast<unsigned int>(formatBits);
+  }
+  return 8U * data.GetLength();
+}
+
+}  // namespace
+
+const Nelmo::DptValueEntry& QuietEntry(const Nelmo::KnxValueConverter& converter, const KNXDPT& dpt) {
+  const QuietLog quiet;
+  return converter.GetEntry(dpt);
+}
+
+KNXDPT DptWithBits(const std::string& text, int bits) {
+  KNXDPT dpt = ParseDpt(text);
+  dpt.bitSize = static_cast<std::uint8_t>(bits);
+  return dpt;
+}
+
+void Decode(const Nelmo::KnxValueConverter& converter, const std::string& payload, int bits, TraceResult& result) {
+  const KnxStack::BinaryData data = ParseHex(payload);
+  if (auto error = PayloadSizeError(*result.dpt, static_cast<unsigned int>(bits), data)) {
+    result.error = std::move(*error);
+    return;
+  }
+  const KnxStack::GroupValue groupValue(data, GroupValueBits(*result.dpt, bits, data));
+  result.converted = converter.FromKnxValue(*result.dpt, groupValue, result.value);
+  if (result.converted) {
+    const Nelmo::DptValueEntry& entry = QuietEntry(converter, *result.dpt);
+    result.subType = entry.subType;
+    result.text = DisplayText(entry.GetConverter(), *result.dpt, result.value, groupValue);
+  }
+}
+
+std::optional<std::string> SendError(const Nelmo::KnxValueConverter& converter, const KNXDPT& dpt,
+                                     const ULOVALUE& value) {
+  if (auto error = CalendarError(value)) {
+    return error;
+  }
+  return YearWindowError(dpt, QuietEntry(converter, dpt).GetConverter(), value);
+}
+
+}  // namespace Knxconv
