@@ -77,7 +77,12 @@ int RunTrace(const Arguments& arguments, OutputContext& context) {
   while (!context.OutputFailed() && reader.Next(telegram)) {
     const TraceResult result = DecodeTelegram(converter, context, telegram);
     allConverted = allConverted && result.converted;
-    context.PrintResult(TraceText(result), TraceJson(result));
+    // Only the form that is printed is built: this runs once per telegram.
+    if (context.IsJson()) {
+      context.PrintJson(TraceJson(result));
+    } else {
+      context.PrintLine(TraceText(result));
+    }
   }
   if (source.bad()) {
     throw InputError("cannot read the trace '" + name + "' to its end");
