@@ -11,12 +11,13 @@ DEMO_PACKAGES = g++ cmake make libhowardhinnant-date-dev nlohmann-json3-dev
 # Everything else that make test uses.
 PACKAGES = $(DEMO_PACKAGES) googletest libgtest-dev libgmock-dev \
            g++-arm-linux-gnueabihf qemu-user \
-           clang libclang-rt-14-dev valgrind libbenchmark-dev clang-format clang-tidy pkgconf dpkg-dev
+           clang libclang-rt-14-dev valgrind libbenchmark-dev clang-format clang-tidy pkgconf dpkg-dev time
 # The API reference (make docs).
 DOCS_PACKAGES = doxygen
 
 .PHONY: all deps deps-demo deps-docs demo docs test test-host test-armhf test-asan test-fuzz test-valgrind \
-        build-host build-armhf build-asan build-fuzz fuzz tsan bench instructions clean \
+        build-host build-armhf build-asan build-fuzz build-bench fuzz tsan bench instructions \
+        instructions-check instructions-baseline clean \
         test-consumer check-includes format-check package test-packages test-external lint
 
 all: build-host
@@ -53,7 +54,7 @@ build/tsan/CMakeCache.txt:
 
 build/bench/CMakeCache.txt:
 	cmake -S . -B build/bench -DCMAKE_BUILD_TYPE=Release -DKNXCONV_BUILD_BENCHMARKS=ON \
-	  -DKNXCONV_BUILD_TESTS=OFF -DKNXCONV_BUILD_TOOLS=OFF $(CMAKE_FLAGS)
+	  -DKNXCONV_BUILD_TESTS=OFF -DKNXCONV_BUILD_TOOLS=ON $(CMAKE_FLAGS)
 
 build-host: deps build/host/CMakeCache.txt
 	cmake --build build/host -j$(JOBS)
@@ -115,7 +116,8 @@ lint: build-host
 test-external: build-host
 	scripts/test-external-platform.sh build/host build/external
 
-test: test-host test-armhf test-asan test-fuzz test-valgrind test-consumer check-includes format-check test-external lint docs
+test: test-host test-armhf test-asan test-fuzz test-valgrind test-consumer check-includes format-check test-external lint \
+      docs instructions-check
 
 # Debian packages for amd64 and armhf (cross build) in build/packages.
 build/package-amd64/CMakeCache.txt:
@@ -148,12 +150,28 @@ tsan: deps build/tsan/CMakeCache.txt
 	cmake --build build/tsan -j$(JOBS) --target ConcurrentConversionTest StandardTableConcurrencyTest
 	cd build/tsan && TSAN_OPTIONS=halt_on_error=1 ctest --output-on-failure -R 'Concurren'
 
+# Conversions (Google Benchmark), then knxconv trace over a generated trace of
+# a million telegrams: telegrams per second and memory, text and --json.
 bench: deps build/bench/CMakeCache.txt
+	cmake -S . -B build/bench -DKNXCONV_BUILD_TOOLS=ON >/dev/null
 	cmake --build build/bench -j$(JOBS)
 	./build/bench/Benchmarks/ConversionBenchmark --benchmark_out=build/bench.json --benchmark_out_format=json
+	scripts/bench-trace.sh build/bench/Tools/knxconv/knxconv build/bench-trace
 
-instructions: bench
+build-bench: deps build/bench/CMakeCache.txt
+	cmake --build build/bench -j$(JOBS) --target InstructionCount
+
+# Instructions per conversion, facade and floor, every standard row (callgrind).
+instructions: build-bench
 	scripts/count-instructions.sh build/bench/Benchmarks/InstructionCount
+
+# Fails when a conversion costs more than 5 % above the committed baseline.
+instructions-check: build-bench
+	scripts/count-instructions.sh build/bench/Benchmarks/InstructionCount --check Benchmarks/instructions-baseline.txt
+
+# Rewrites the baseline; commit it on purpose, with the reason.
+instructions-baseline: build-bench
+	scripts/count-instructions.sh build/bench/Benchmarks/InstructionCount --write Benchmarks/instructions-baseline.txt
 
 clean:
 	rm -rf build

@@ -30,8 +30,18 @@ int ThresholdFromEnvironment() {
 // out of the check that every conversion makes.
 std::atomic<std::atomic<int>*> g_threshold{nullptr};
 
+// Levels are never below 0, so a lower threshold checks the same as 0.
+void MirrorForChecks(int threshold) {
+  UloLogDetail::checkedThreshold.store(threshold < 0 ? 0 : threshold, std::memory_order_relaxed);
+}
+
 [[gnu::noinline]] std::atomic<int>& FirstThreshold() {
   static std::atomic<int> threshold{ThresholdFromEnvironment()};
+  // Only where no threshold has been set yet: a set one is mirrored already.
+  int unread = -1;
+  const int fromEnvironment = threshold.load(std::memory_order_relaxed);
+  UloLogDetail::checkedThreshold.compare_exchange_strong(unread, fromEnvironment < 0 ? 0 : fromEnvironment,
+                                                         std::memory_order_relaxed);
   g_threshold.store(&threshold, std::memory_order_release);
   return threshold;
 }
@@ -86,7 +96,10 @@ void WriteToStandardError(UloLogLevel level, std::string_view file, std::string_
 
 }  // namespace
 
-bool UloLoggingStateIsActive(UloLogLevel level) {
+// Constant-initialised, so checks made during dynamic initialisation see -1.
+std::atomic<int> UloLogDetail::checkedThreshold{-1};
+
+bool UloLogDetail::IsActiveOnFirstUse(UloLogLevel level) {
   return static_cast<int>(level) >= Threshold().load(std::memory_order_relaxed);
 }
 
@@ -103,6 +116,7 @@ void UloLog(UloLogLevel level, std::string_view file, std::string_view function,
 
 void UloLogSetThreshold(int threshold) {
   Threshold().store(threshold, std::memory_order_relaxed);
+  MirrorForChecks(threshold);
 }
 
 int UloLogGetThreshold() {

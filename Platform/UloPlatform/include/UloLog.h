@@ -1,5 +1,6 @@
 #pragma once
 
+#include <atomic>
 #include <functional>
 #include <string_view>
 
@@ -10,8 +11,19 @@ enum UloLogLevel : int {
   ULO_LOG_ERROR = 3,
 };
 
+namespace UloLogDetail {
+// The threshold as checks see it, never below 0; -1 until it has been read
+// from the environment. Every conversion checks the level, so a check is a
+// load and a compare here rather than a call into the library.
+extern std::atomic<int> checkedThreshold;
+bool IsActiveOnFirstUse(UloLogLevel level);
+}  // namespace UloLogDetail
+
 // Whether messages of this level are written (level >= threshold).
-bool UloLoggingStateIsActive(UloLogLevel level);
+inline bool UloLoggingStateIsActive(UloLogLevel level) {
+  const int threshold = UloLogDetail::checkedThreshold.load(std::memory_order_relaxed);
+  return threshold >= 0 ? static_cast<int>(level) >= threshold : UloLogDetail::IsActiveOnFirstUse(level);
+}
 void UloLog(UloLogLevel level, std::string_view file, std::string_view function, std::string_view text, int line);
 
 // Threshold: the lowest active level; 4 or more turns logging off. Starts at

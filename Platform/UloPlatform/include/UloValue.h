@@ -18,6 +18,33 @@ class ULOVALUE {
  public:
   ULOVALUE() = default;  // the empty value: IVT_ANY, zero payload
   explicit ULOVALUE(UloValueType type) : m_type(type) {}
+  // Written out so that a value without text copies its fields and nothing
+  // else: the text's copy is skipped where it is empty.
+  ULOVALUE(const ULOVALUE& other)
+      : m_type(other.m_type),
+        m_bool(other.m_bool),
+        m_integer(other.m_integer),
+        m_double(other.m_double),
+        m_time(other.m_time),
+        m_text(other.m_text.empty() ? std::string() : other.m_text) {}
+  ULOVALUE& operator=(const ULOVALUE& other) {
+    if (this != &other) {
+      m_type = other.m_type;
+      m_bool = other.m_bool;
+      m_integer = other.m_integer;
+      m_double = other.m_double;
+      m_time = other.m_time;
+      if (other.m_text.empty()) {
+        m_text.clear();
+      } else {
+        m_text = other.m_text;
+      }
+    }
+    return *this;
+  }
+  ULOVALUE(ULOVALUE&&) noexcept = default;
+  ULOVALUE& operator=(ULOVALUE&&) noexcept = default;
+  ~ULOVALUE() = default;
 
   static ULOVALUE Bool(bool value);
   static ULOVALUE Byte(std::uint8_t value, UloValueType type = IVT_BYTE);

@@ -16,10 +16,16 @@ bool IntegerRange::FitToRange(std::int32_t& value) const {
 }
 
 std::int32_t IntegerRange::ScaleTo(std::int32_t value) const {
+  if (ScalesToItself(value, internalMinimum, scaleFactor, externalMinimum)) {
+    return value;
+  }
   return ScaleToRounded<std::int32_t>(value, internalMinimum, scaleFactor, externalMinimum);
 }
 
 std::int32_t IntegerRange::ScaleFrom(std::int32_t value) const {
+  if (ScalesToItself(value, externalMinimum, scaleFactor, internalMinimum)) {
+    return value;
+  }
   return ScaleFromRounded<std::int32_t>(value, externalMinimum, scaleFactor, internalMinimum);
 }
 

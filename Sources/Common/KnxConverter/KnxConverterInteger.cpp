@@ -5,6 +5,7 @@
 #include <type_traits>
 
 #include "ConverterLog.h"
+#include "RangeArithmetic.h"
 
 namespace Nelmo {
 
@@ -111,6 +112,33 @@ struct Unsigned48Format {
   }
 };
 
+// The range's clamp and scaling worked out inline: a call for a compare or
+// for a scaling that gives the number back cost more than the work.
+template <typename Range, typename Number>
+bool Fit(const Range& range, Number& value) {
+  return RangeArithmetic::FitInto(value, range.internalMinimum, range.internalMaximum);
+}
+
+template <typename Range, typename Number>
+Number ScaledTo(const Range& range, Number value) {
+  if constexpr (std::is_signed_v<Number>) {
+    if (RangeArithmetic::ScalesToItself(value, range.internalMinimum, range.scaleFactor, range.externalMinimum)) {
+      return value;
+    }
+  }
+  return range.ScaleTo(value);
+}
+
+template <typename Range, typename Number>
+Number ScaledFrom(const Range& range, Number value) {
+  if constexpr (std::is_signed_v<Number>) {
+    if (RangeArithmetic::ScalesToItself(value, range.externalMinimum, range.scaleFactor, range.internalMinimum)) {
+      return value;
+    }
+  }
+  return range.ScaleFrom(value);
+}
+
 // Clamp into the internal range (a notice when that changed the value),
 // scale, write the bus field.
 template <typename Format>
@@ -119,10 +147,10 @@ bool IntegerToKnx(const typename Format::Range& range, const KNXDPT& dpt, const 
   Log::TraceToKnx(dpt, value, __LINE__);
   const typename Format::Number original = Format::Load(value);
   typename Format::Number fitted = original;
-  if (!range.FitToRange(fitted)) {
+  if (!Fit(range, fitted)) {
     Log::Adjusted(dpt, value.GetType(), Format::ShownBefore(original), Format::ShownAfter(fitted), __LINE__);
   }
-  Format::Send(groupValue, range.ScaleTo(fitted));
+  Format::Send(groupValue, ScaledTo(range, fitted));
   return true;
 }
 
@@ -131,7 +159,7 @@ template <typename Format>
 bool IntegerFromKnx(const typename Format::Range& range, const KNXDPT& dpt, const KnxStack::GroupValue& groupValue,
                     ULOVALUE& value) {
   Log::TraceFromKnx(dpt, groupValue, __LINE__);
-  Format::Store(value, range.ScaleFrom(Format::Receive(groupValue)));
+  Format::Store(value, ScaledFrom(range, static_cast<typename Format::Number>(Format::Receive(groupValue))));
   return true;
 }
 

@@ -12,15 +12,74 @@ namespace {
 
 constexpr std::uint16_t CharacterMainNumber = 4;
 
-// The bytes of text that belong to the character set, in order.
-std::string InRange(const IntegerRange& range, const std::string& text) {
-  std::string kept;
-  for (const char byte : text) {
-    if (range.IsInRange(static_cast<unsigned char>(byte))) {
-      kept += byte;
+constexpr std::size_t String14Bytes = 14;
+constexpr unsigned char TwoByteLeadMask = 0xE0;
+constexpr unsigned char TwoByteLead = 0xC0;
+constexpr unsigned char TrailBits = 0x3F;
+constexpr unsigned char TrailMark = 0x80;
+
+// The range's bounds read once for a whole text, not once per byte.
+struct CharacterSet {
+  explicit CharacterSet(const IntegerRange& range) : lowest(range.internalMinimum), highest(range.internalMaximum) {}
+  bool Contains(unsigned char byte) const { return byte >= lowest && byte <= highest; }
+
+  std::int32_t lowest;
+  std::int32_t highest;
+};
+
+// The single byte of a two-byte UTF-8 sequence at cursor, or the byte
+// itself; cursor is left on the sequence's last byte. A lead right before
+// the terminator combines with the zero, and the walk ends after it.
+unsigned char SingleByte(const char*& cursor) {
+  const auto byte = static_cast<unsigned char>(*cursor);
+  if ((byte & TwoByteLeadMask) != TwoByteLead) {
+    return byte;
+  }
+  const auto next = static_cast<unsigned char>(cursor[1]);
+  if (next != 0) {
+    ++cursor;
+  }
+  return static_cast<unsigned char>(((byte << 6U) & 0xFFU) | (next & TrailBits));
+}
+
+// The bus bytes of text, in one pass: each character as its single byte,
+// bytes outside the set dropped, at most the 14 that travel.
+std::string ToString14(const CharacterSet& set, const std::string& text) {
+  std::string bytes;
+  for (const char* cursor = text.c_str(); *cursor != '\0' && bytes.size() < String14Bytes; ++cursor) {
+    const unsigned char byte = SingleByte(cursor);
+    if (set.Contains(byte)) {
+      bytes += static_cast<char>(byte);
     }
   }
-  return kept;
+  return bytes;
+}
+
+// The received bytes as UTF-8, in one pass, keeping only the encoded bytes
+// that belong to the set.
+std::string FromString14(const CharacterSet& set, const std::string& received) {
+  std::string text;
+  for (const char character : received) {
+    const auto byte = static_cast<unsigned char>(character);
+    if (byte == 0) {
+      break;
+    }
+    if (byte < TrailMark) {
+      if (set.Contains(byte)) {
+        text += character;
+      }
+      continue;
+    }
+    const auto lead = static_cast<unsigned char>(TwoByteLead | (byte >> 6U));
+    const auto trail = static_cast<unsigned char>(TrailMark | (byte & TrailBits));
+    if (set.Contains(lead)) {
+      text += static_cast<char>(lead);
+    }
+    if (set.Contains(trail)) {
+      text += static_cast<char>(trail);
+    }
+  }
+  return text;
 }
 
 }  // namespace
@@ -36,8 +95,8 @@ bool KnxConverter8BitString::ToKnxValue(const KNXDPT& dpt, const ULOVALUE& value
     return false;
   }
   // Only the first character travels; an empty text sends 0.
-  const std::string bytes = CodingUtf8::Utf8ToSingleBytes(value.GetString().c_str());
-  const auto character = static_cast<unsigned char>(bytes.empty() ? '\0' : bytes.front());
+  const char* cursor = value.GetString().c_str();
+  const unsigned char character = *cursor == '\0' ? 0 : SingleByte(cursor);
   if (!m_range.IsInRange(character)) {
     return false;
   }
@@ -72,15 +131,14 @@ KnxConverter14ByteString::~KnxConverter14ByteString() = default;
 bool KnxConverter14ByteString::ToKnxValue(const KNXDPT& dpt, const ULOVALUE& value, KnxStack::GroupValue& groupValue) {
   Log::TraceToKnx(dpt, value, __LINE__);
   // The stack cuts to 14 bytes and pads with zeros.
-  groupValue.SetAsString14(InRange(m_range, CodingUtf8::Utf8ToSingleBytes(value.GetString().c_str())));
+  groupValue.SetAsString14(ToString14(CharacterSet(m_range), value.GetString()));
   return true;
 }
 
 bool KnxConverter14ByteString::FromKnxValue(const KNXDPT& dpt, const KnxStack::GroupValue& groupValue,
                                             ULOVALUE& value) {
   Log::TraceFromKnx(dpt, groupValue, __LINE__);
-  const std::string received = groupValue.GetAsString14();
-  value.SetString(InRange(m_range, CodingUtf8::Iso88591ToUtf8(received.c_str())));
+  value.SetString(FromString14(CharacterSet(m_range), groupValue.GetAsString14()));
   return true;
 }
 

@@ -18,11 +18,17 @@ bool LongIntegerRange::FitToRange(std::int64_t& value) const {
 }
 
 std::int64_t LongIntegerRange::ScaleTo(std::int64_t value) const {
+  if (ScalesToItself(value, internalMinimum, scaleFactor, externalMinimum)) {
+    return value;
+  }
   return ScaleToRounded<std::int64_t>(static_cast<double>(value), static_cast<double>(internalMinimum), scaleFactor,
                                       static_cast<double>(externalMinimum));
 }
 
 std::int64_t LongIntegerRange::ScaleFrom(std::int64_t value) const {
+  if (ScalesToItself(value, externalMinimum, scaleFactor, internalMinimum)) {
+    return value;
+  }
   return ScaleFromRounded<std::int64_t>(static_cast<double>(value), static_cast<double>(externalMinimum), scaleFactor,
                                         static_cast<double>(internalMinimum));
 }

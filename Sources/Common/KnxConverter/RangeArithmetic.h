@@ -65,6 +65,30 @@ Int ScaleFromRounded(double value, double externalMinimum, double factor, double
   return RoundToInteger<Int>(internalMinimum + (value - externalMinimum) / factor);
 }
 
+// Whether scaling value between these minimums by factor gives value back:
+// a factor of 1 between equal minimums, with numbers small enough that the
+// double arithmetic above is exact. Callers skip that arithmetic then; the
+// result is the same number.
+template <typename Int>
+bool ScalesToItself(Int value, Int fromMinimum, double factor, Int toMinimum) {
+  if (factor != 1.0 || fromMinimum != toMinimum) {
+    return false;
+  }
+  if constexpr (sizeof(Int) <= sizeof(std::int32_t)) {
+    return true;
+  } else {
+    constexpr Int exactBelow = Int{1} << 52;
+    const auto inside = [](Int number) {
+      if constexpr (std::is_signed_v<Int>) {
+        return number < exactBelow && number > -exactBelow;
+      } else {
+        return number < exactBelow;
+      }
+    };
+    return inside(value) && inside(fromMinimum);
+  }
+}
+
 // max - min as a double, exact in 64 bits: computed on the unsigned
 // difference, so no span of two 64-bit bounds can overflow.
 template <typename Int>

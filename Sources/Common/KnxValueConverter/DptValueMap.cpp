@@ -5,6 +5,7 @@
 
 #include "ConverterLog.h"
 #include "KnxConverterDefault.h"
+#include "KnxDptFormat.h"
 
 namespace Nelmo {
 
@@ -33,10 +34,18 @@ bool DptValueMap::AddEntry(const KNXDPT& dpt, DptValueEntry&& entry) {
   } else if (mainNode->second.count(dpt.subNumber) != 0) {
     return true;
   }
-  return mainNode->second.try_emplace(dpt.subNumber, std::move(entry)).second;
+  const auto inserted = mainNode->second.try_emplace(dpt.subNumber, std::move(entry));
+  if (inserted.second) {
+    m_index.Add(dpt, inserted.first->second);
+  }
+  return inserted.second;
 }
 
 const DptValueEntry& DptValueMap::GetEntry(const KNXDPT& dpt) const {
+  const DptRowIndex::Row indexed = m_index.Find(dpt);
+  if (indexed.entry != nullptr) {
+    return *indexed.entry;
+  }
   const auto mainNode = m_map.find(dpt.mainNumber);
   if (mainNode == m_map.end()) {
     LogNoEntry(__LINE__, [&](std::ostream& out) { out << Log::Dpt{dpt}; });
@@ -58,12 +67,17 @@ const DptValueEntry& DptValueMap::GetEntry(const KNXDPT& dpt) const {
   return GetEmptyEntry();
 }
 
+DptRowIndex::Row DptValueMap::FindRowInTree(const KNXDPT& dpt) const {
+  return DptRowIndex::Row{&GetEntry(dpt), static_cast<std::uint32_t>(KnxDptFormat::GetBitSize(dpt))};
+}
+
 DptValueEntry& DptValueMap::GetEmptyEntry() {
   static DptValueEntry empty(KNXDPT(), IVT_ANY, UloDP::IVST_NONE, std::make_unique<KnxConverterDefault>());
   return empty;
 }
 
 bool DptValueMap::Clear() {
+  m_index.Clear();
   m_map.clear();
   return true;
 }

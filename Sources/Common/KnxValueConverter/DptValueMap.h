@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <map>
 
+#include "DptRowIndex.h"
 #include "DptValueEntry.h"
 #include "NelmoExport.h"
 #include "UloPlatform.h"
@@ -30,12 +31,21 @@ class NELMO_EXPORT DptValueMap {
   const DptValueEntry& GetEntry(const KNXDPT& dpt) const;
   // The process-wide entry that stands for "no row" (value type IVT_ANY).
   static DptValueEntry& GetEmptyEntry();
+  // GetEntry's answer with the bit size the DPT's format demands, straight
+  // from the index where it can answer; the conversions start here.
+  DptRowIndex::Row FindRow(const KNXDPT& dpt) const {
+    const DptRowIndex::Row row = m_index.Find(dpt);
+    return row.entry != nullptr ? row : FindRowInTree(dpt);
+  }
   bool Clear();
   // Every row, ordered by main and sub number, for listing the table.
   const MainNumberMap& GetEntries() const { return m_map; }
 
  private:
+  DptRowIndex::Row FindRowInTree(const KNXDPT& dpt) const;
+
   MainNumberMap m_map;
+  DptRowIndex m_index;
 };
 
 }  // namespace Nelmo

@@ -20,9 +20,10 @@ constexpr std::uint32_t VariableLength = static_cast<std::uint32_t>(KnxDptFormat
 constexpr unsigned int LargestBitSizeField = 255;
 
 // The result turns false before the message is written: an exception raised
-// while logging must still report the failure.
+// while logging must still report the failure. Every failure leaves the
+// conversion path through here, out of line, so that path stays short.
 template <typename Compose>
-bool Fail(bool& result, std::string_view function, int line, Compose&& compose) {
+[[gnu::cold, gnu::noinline]] bool Fail(bool& result, std::string_view function, int line, Compose&& compose) {
   result = false;
   Log::Write(ULO_LOG_ERROR, Log::FacadeFile, function, line, std::forward<Compose>(compose));
   return false;
@@ -30,30 +31,19 @@ bool Fail(bool& result, std::string_view function, int line, Compose&& compose) 
 
 bool AcceptsUnconverted(UloValueType first, UloValueType second);
 
-// The row of dpt; null, reported, when the map answers with the empty entry.
-const DptValueEntry* FindRow(const KnxValueConverter& facade, const KNXDPT& dpt, bool& result,
-                             std::string_view function) {
-  const DptValueEntry& entry = facade.GetDptValueMap().GetEntry(dpt);
-  if (entry.valueType != IVT_ANY) {
-    return &entry;
-  }
-  Fail(result, function, __LINE__, [&](std::ostream& out) { out << "No Entry found for DPT = " << Log::Dpt{dpt}; });
-  return nullptr;
+// The map answered with the empty entry.
+[[gnu::cold, gnu::noinline]] bool NoRow(bool& result, std::string_view function, const KNXDPT& dpt) {
+  return Fail(result, function, __LINE__,
+              [&](std::ostream& out) { out << "No Entry found for DPT = " << Log::Dpt{dpt}; });
 }
 
-KnxConverter* ConverterOf(const DptValueEntry& entry, const KNXDPT& dpt, bool& result, std::string_view function) {
-  KnxConverter* converter = entry.GetConverter();
-  if (converter == nullptr) {
-    Fail(result, function, __LINE__,
-         [&](std::ostream& out) { out << "NULL pointer as KnxConverter for DPT = " << Log::Dpt{dpt}; });
-  }
-  return converter;
+[[gnu::cold, gnu::noinline]] bool NoConverter(bool& result, std::string_view function, const KNXDPT& dpt) {
+  return Fail(result, function, __LINE__,
+              [&](std::ostream& out) { out << "NULL pointer as KnxConverter for DPT = " << Log::Dpt{dpt}; });
 }
 
-bool CompleteDptToSend(const KnxValueConverter& facade, KNXDPT& dpt, const ULOVALUE& value, bool& result) {
-  if (dpt.mainNumber != 0) {
-    return true;
-  }
+[[gnu::cold, gnu::noinline]] bool CompleteDptToSend(const KnxValueConverter& facade, KNXDPT& dpt, const ULOVALUE& value,
+                                                    bool& result) {
   if (!facade.GetDefaultMappingDptForValueType(dpt, value)) {
     facade.GetDefaultMappingDptForSize(value.GetType(), dpt);
   }
@@ -65,13 +55,13 @@ bool CompleteDptToSend(const KnxValueConverter& facade, KNXDPT& dpt, const ULOVA
   });
 }
 
-// The row's converter writes the group value from working, the value after
-// any type conversion. Inline: the common path should not pay for a call.
+// The row's converter writes the group value from working, the call's own
+// copy of the value after any type conversion.
 inline bool Encode(const DptValueEntry& entry, const KNXDPT& dpt, const ULOVALUE& working,
                    KnxStack::GroupValue& groupValue, bool& result) {
-  KnxConverter* converter = ConverterOf(entry, dpt, result, ToKnxFunction);
+  KnxConverter* converter = entry.GetConverter();
   if (converter == nullptr) {
-    return false;
+    return NoConverter(result, ToKnxFunction, dpt);
   }
   if (converter->ToKnxValue(dpt, working, groupValue)) {
     return true;
@@ -83,8 +73,8 @@ inline bool Encode(const DptValueEntry& entry, const KNXDPT& dpt, const ULOVALUE
 
 // A value that the row does not take as it is goes as a copy converted into
 // the row's type.
-bool EncodeConverted(const DptValueEntry& entry, const KNXDPT& dpt, const ULOVALUE& value,
-                     KnxStack::GroupValue& groupValue, bool& result) {
+[[gnu::noinline]] bool EncodeConverted(const DptValueEntry& entry, const KNXDPT& dpt, const ULOVALUE& value,
+                                       KnxStack::GroupValue& groupValue, bool& result) {
   ULOVALUE working;
   working.SetType(entry.valueType);
   if (!working.Assign(value)) {
@@ -98,18 +88,20 @@ bool EncodeConverted(const DptValueEntry& entry, const KNXDPT& dpt, const ULOVAL
 
 bool Send(const KnxValueConverter& facade, KNXDPT& dpt, const ULOVALUE& value, KnxStack::GroupValue& groupValue,
           bool& result) {
-  if (!CompleteDptToSend(facade, dpt, value, result)) {
+  if (dpt.mainNumber == 0 && !CompleteDptToSend(facade, dpt, value, result)) {
     return false;
   }
-  const DptValueEntry* entry = FindRow(facade, dpt, result, ToKnxFunction);
-  if (entry == nullptr) {
-    return false;
+  const DptValueEntry& entry = *facade.GetDptValueMap().FindRow(dpt).entry;
+  if (entry.valueType == IVT_ANY) {
+    return NoRow(result, ToKnxFunction, dpt);
   }
-  if (value.GetType() == IVT_NONE || AcceptsUnconverted(value.GetType(), entry->valueType)) {
-    // Converters only read the value, so a copy of it would change nothing.
-    return Encode(*entry, dpt, value, groupValue, result);
+  if (value.GetType() != IVT_NONE && !AcceptsUnconverted(value.GetType(), entry.valueType)) {
+    return EncodeConverted(entry, dpt, value, groupValue, result);
   }
-  return EncodeConverted(*entry, dpt, value, groupValue, result);
+  // A converter may keep the value it is handed; it never gets the caller's.
+  // NOLINTNEXTLINE(performance-unnecessary-copy-initialization): the copy is the point
+  const ULOVALUE working(value);
+  return Encode(entry, dpt, working, groupValue, result);
 }
 
 // A size that the DPT's bit size field cannot hold has no default either.
@@ -117,11 +109,9 @@ std::uint8_t BitSizeField(unsigned int bits) {
   return bits > LargestBitSizeField ? 0 : static_cast<std::uint8_t>(bits);
 }
 
-bool CompleteDptToReceive(const KnxValueConverter& facade, KNXDPT& dpt, const KnxStack::GroupValue& groupValue,
-                          const ULOVALUE& value, bool& result) {
-  if (dpt.mainNumber != 0) {
-    return true;
-  }
+[[gnu::cold, gnu::noinline]] bool CompleteDptToReceive(const KnxValueConverter& facade, KNXDPT& dpt,
+                                                       const KnxStack::GroupValue& groupValue, const ULOVALUE& value,
+                                                       bool& result) {
   if (dpt.bitSize != 0) {
     facade.GetDefaultMappingDptForSize(value.GetType(), dpt);
   } else {
@@ -139,12 +129,19 @@ bool CompleteDptToReceive(const KnxValueConverter& facade, KNXDPT& dpt, const Kn
   });
 }
 
-// Inline for the same reason as Encode.
+[[gnu::cold, gnu::noinline]] bool SizeMismatch(bool& result, const KNXDPT& dpt, std::uint32_t defined,
+                                               std::uint32_t expected) {
+  return Fail(result, FromKnxFunction, __LINE__, [&](std::ostream& out) {
+    out << "Failed to convert a GroupValue for DPT " << Log::Dpt{dpt} << " because of unexpected bit size: " << defined
+        << ", expected: " << expected;
+  });
+}
+
 inline bool Decode(const DptValueEntry& entry, const KNXDPT& dpt, const KnxStack::GroupValue& chosen, ULOVALUE& value,
                    bool& result) {
-  KnxConverter* converter = ConverterOf(entry, dpt, result, FromKnxFunction);
+  KnxConverter* converter = entry.GetConverter();
   if (converter == nullptr) {
-    return false;
+    return NoConverter(result, FromKnxFunction, dpt);
   }
   if (converter->FromKnxValue(dpt, chosen, value)) {
     return true;
@@ -158,8 +155,9 @@ inline bool Decode(const DptValueEntry& entry, const KNXDPT& dpt, const KnxStack
 // Values sent inside the control field arrive with 6 bits and are handed on
 // re-sized to the DPT's format, through a group value of the call's own; a
 // variable-length DPT gets that group value as it was constructed.
-bool DecodeResized(const DptValueEntry& entry, const KNXDPT& dpt, const KnxStack::GroupValue& received,
-                   std::uint32_t expected, ULOVALUE& value, bool& result) {
+[[gnu::noinline]] bool DecodeResized(const DptValueEntry& entry, const KNXDPT& dpt,
+                                     const KnxStack::GroupValue& received, std::uint32_t expected, ULOVALUE& value,
+                                     bool& result) {
   KnxStack::GroupValue local;
   if (expected <= ControlFieldBits) {
     local = KnxStack::GroupValue(received.GetRawData(), expected);
@@ -169,30 +167,28 @@ bool DecodeResized(const DptValueEntry& entry, const KNXDPT& dpt, const KnxStack
 
 bool Receive(const KnxValueConverter& facade, KNXDPT& dpt, const KnxStack::GroupValue& groupValue, ULOVALUE& value,
              bool& result) {
-  if (!CompleteDptToReceive(facade, dpt, groupValue, value, result)) {
+  if (dpt.mainNumber == 0 && !CompleteDptToReceive(facade, dpt, groupValue, value, result)) {
     return false;
   }
-  const DptValueEntry* entry = FindRow(facade, dpt, result, FromKnxFunction);
-  if (entry == nullptr) {
-    return false;
+  const DptRowIndex::Row row = facade.GetDptValueMap().FindRow(dpt);
+  const DptValueEntry& entry = *row.entry;
+  if (entry.valueType == IVT_ANY) {
+    return NoRow(result, FromKnxFunction, dpt);
   }
-  value.SetType(entry->valueType);
-  const auto expected = static_cast<std::uint32_t>(KnxDptFormat::GetBitSize(dpt));
+  value.SetType(entry.valueType);
+  const std::uint32_t expected = row.expectedBitSize;
   const std::uint32_t defined = groupValue.GetDefinedSize();
   const bool mismatch =
       expected <= ControlFieldBits ? defined > ControlFieldBits : expected != defined && expected != VariableLength;
   if (mismatch) {
-    return Fail(result, FromKnxFunction, __LINE__, [&](std::ostream& out) {
-      out << "Failed to convert a GroupValue for DPT " << Log::Dpt{dpt}
-          << " because of unexpected bit size: " << defined << ", expected: " << expected;
-    });
+    return SizeMismatch(result, dpt, defined, expected);
   }
   // The group value handed on depends on the received size alone; only the
   // control-field size ever reads a re-sized copy.
   if (defined == ControlFieldBits) {
-    return DecodeResized(*entry, dpt, groupValue, expected, value, result);
+    return DecodeResized(entry, dpt, groupValue, expected, value, result);
   }
-  return Decode(*entry, dpt, groupValue, value, result);
+  return Decode(entry, dpt, groupValue, value, result);
 }
 
 // A list of value types, for the compatibility table.

@@ -1,8 +1,11 @@
 #include "Conversion.h"
 
+#include "CalendarCheck.h"
 #include "DptText.h"
 #include "HexText.h"
 #include "LogForwarder.h"
+#include "NumberDisplay.h"
+#include "PayloadSize.h"
 
 namespace Knxconv {
 
@@ -39,11 +42,25 @@ KNXDPT DptWithBits(const std::string& text, int bits) {
 
 void Decode(const Nelmo::KnxValueConverter& converter, const std::string& payload, int bits, TraceResult& result) {
   const KnxStack::BinaryData data = ParseHex(payload);
+  if (auto error = PayloadSizeError(*result.dpt, static_cast<unsigned int>(bits), data)) {
+    result.error = std::move(*error);
+    return;
+  }
   const KnxStack::GroupValue groupValue(data, GroupValueBits(*result.dpt, bits, data));
   result.converted = converter.FromKnxValue(*result.dpt, groupValue, result.value);
   if (result.converted) {
-    result.subType = QuietEntry(converter, *result.dpt).subType;
+    const Nelmo::DptValueEntry& entry = QuietEntry(converter, *result.dpt);
+    result.subType = entry.subType;
+    result.text = DisplayText(entry.GetConverter(), *result.dpt, result.value, groupValue);
   }
+}
+
+std::optional<std::string> SendError(const Nelmo::KnxValueConverter& converter, const KNXDPT& dpt,
+                                     const ULOVALUE& value) {
+  if (auto error = CalendarError(value)) {
+    return error;
+  }
+  return YearWindowError(dpt, QuietEntry(converter, dpt).GetConverter(), value);
 }
 
 }  // namespace Knxconv

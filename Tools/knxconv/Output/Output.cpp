@@ -140,14 +140,36 @@ Json TableJson(const std::vector<TableRow>& rows) {
   return json;
 }
 
-std::string TraceText(const TraceResult& result) {
-  const Telegram& telegram = result.telegram;
-  std::string text = telegram.time + "  " + Padded(telegram.source, AddressWidth) + " -> " +
-                     Padded(telegram.destination, AddressWidth) + "  " + Padded(TraceDpt(result), DptWidth) + " ";
-  if (!result.converted) {
-    return text + "error: " + result.error;
+namespace {
+
+// Appends text and blanks up to width, without a temporary of its own.
+void AppendPadded(std::string& line, std::string_view text, std::size_t width) {
+  line.append(text);
+  if (text.size() < width) {
+    line.append(width - text.size(), ' ');
   }
-  text += Padded(ValueTypeText(result.value.GetType()), TypeWidth) + " " + result.value.ToString();
+}
+
+}  // namespace
+
+std::string TraceText(const TraceResult& result) {
+  // One string built in place: this runs once per telegram of a trace.
+  constexpr std::size_t Typical = 96;
+  const Telegram& telegram = result.telegram;
+  std::string text;
+  text.reserve(Typical);
+  text.append(telegram.time).append("  ");
+  AppendPadded(text, telegram.source, AddressWidth);
+  text.append(" -> ");
+  AppendPadded(text, telegram.destination, AddressWidth);
+  text.append("  ");
+  AppendPadded(text, TraceDpt(result), DptWidth);
+  text.append(" ");
+  if (!result.converted) {
+    return text.append("error: ").append(result.error);
+  }
+  AppendPadded(text, ValueTypeText(result.value.GetType()), TypeWidth);
+  text.append(" ").append(result.text);
   // An empty value leaves no blanks at the end of the line.
   text.erase(text.find_last_not_of(' ') + 1);
   return text;

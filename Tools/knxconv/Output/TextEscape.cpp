@@ -80,12 +80,33 @@ std::string EscapedControl(unsigned char byte) {
   }
 }
 
+// How many bytes at the start of text are printable ASCII other than the
+// backslash: they need no escaping.
+std::size_t PlainPrefix(std::string_view text) {
+  std::size_t length = 0;
+  while (length < text.size()) {
+    const auto byte = static_cast<unsigned char>(text[length]);
+    if (byte < 0x20 || byte >= Delete || byte == '\\') {
+      break;
+    }
+    ++length;
+  }
+  return length;
+}
+
 }  // namespace
 
 std::string EscapeText(std::string_view text) {
   std::string escaped;
   escaped.reserve(text.size());
   while (!text.empty()) {
+    // Printable ASCII, nearly all of a line, goes as it is, a run at a time.
+    const std::size_t plain = PlainPrefix(text);
+    escaped.append(text.substr(0, plain));
+    text.remove_prefix(plain);
+    if (text.empty()) {
+      break;
+    }
     const auto byte = static_cast<unsigned char>(text[0]);
     const std::size_t length = SequenceLength(text);
     if (length == 0) {

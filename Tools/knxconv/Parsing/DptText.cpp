@@ -1,9 +1,9 @@
 #include "DptText.h"
 
 #include <cstdint>
-#include <cstdio>
 #include <limits>
 #include <optional>
+#include <string>
 
 #include "InputError.h"
 #include "NumberText.h"
@@ -41,10 +41,17 @@ KNXDPT ParseDpt(std::string_view text) {
   return dpt;
 }
 
+// "%u.%03u" written out: a trace formats one DPT per telegram, and a
+// printf costs more than the conversion.
 std::string FormatDpt(const KNXDPT& dpt) {
-  char text[16];
-  std::snprintf(text, sizeof text, "%u.%03u", static_cast<unsigned>(dpt.mainNumber),
-                static_cast<unsigned>(dpt.subNumber));
+  constexpr unsigned SubDigits = 3;
+  std::string text = std::to_string(dpt.mainNumber);
+  text += '.';
+  const std::string sub = std::to_string(dpt.subNumber);
+  if (sub.size() < SubDigits) {
+    text.append(SubDigits - sub.size(), '0');
+  }
+  text += sub;
   return text;
 }
 

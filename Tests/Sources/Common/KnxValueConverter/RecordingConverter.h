@@ -20,6 +20,7 @@ struct Call {
   ULOVALUE value;
   KnxStack::GroupValue groupValue;
   const KnxStack::GroupValue* groupValueAddress;
+  const ULOVALUE* valueAddress;
 };
 
 enum class Behaviour { Succeed, Fail, ThrowGroupValueException, ThrowOther };
@@ -50,13 +51,13 @@ class RecordingConverter : public Nelmo::KnxConverter {
   }
 
   bool ToKnxValue(const KNXDPT& dpt, const ULOVALUE& value, KnxStack::GroupValue& groupValue) override {
-    m_script->toKnxCalls.push_back(Call{dpt, value, groupValue, &groupValue});
+    m_script->toKnxCalls.push_back(Call{dpt, value, groupValue, &groupValue, &value});
     groupValue = m_script->encoded;
     return Act();
   }
 
   bool FromKnxValue(const KNXDPT& dpt, const KnxStack::GroupValue& groupValue, ULOVALUE& value) override {
-    m_script->fromKnxCalls.push_back(Call{dpt, value, groupValue, &groupValue});
+    m_script->fromKnxCalls.push_back(Call{dpt, value, groupValue, &groupValue, &value});
     value.SetInt32(m_script->decoded);
     return Act();
   }

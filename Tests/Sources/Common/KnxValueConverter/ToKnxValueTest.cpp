@@ -236,6 +236,22 @@ TEST_F(Conversion, ToKnxHandsTheConverterTheValueOrItsConversion) {
   EXPECT_TRUE(capture.Lines().empty());
 }
 
+// Also where the value passes as it is, the converter reads a copy of the
+// call's own, not the caller's object.
+TEST_F(Conversion, ToKnxHandsTheConverterAValueOfItsOwn) {
+  LogCapture capture;
+  for (const Passing& row : Passings) {
+    SCOPED_TRACE(row.name);
+    KNXDPT dpt = row.dpt;
+    KnxStack::GroupValue groupValue;
+    auto& calls = ScriptOf(row.rowMain, row.rowSub).toKnxCalls;
+    calls.clear();
+    EXPECT_TRUE(m_facade.ToKnxValue(dpt, row.value, groupValue));
+    ASSERT_EQ(calls.size(), 1u);
+    EXPECT_NE(calls[0].valueAddress, &row.value);
+  }
+}
+
 TEST_F(Conversion, ToKnxNeverChangesTheCallersValue) {
   LogCapture capture(ULO_LOG_OFF);
   const auto expectUnchanged = [this](const auto& row) {
