@@ -86,7 +86,8 @@ int ReportUsageError(const CLI::App& app, const std::string& message, std::ostre
 
 }  // namespace
 
-int RunCommandLine(int argc, const char* const* argv, std::istream& in, std::ostream& out, std::ostream& err) {
+int RunCommandLine(int argc, const char* const* argv, std::istream& in, std::ostream& out, std::ostream& err,
+                   const std::vector<ExtraCommand>& extra) {
   CLI::App app("Converts values to and from KNX group values with the standard DPT table.", "knxconv");
   app.set_version_flag("--version", std::string("knxconv ") + KNXCONV_VERSION);
   app.require_subcommand(1);
@@ -95,6 +96,10 @@ int RunCommandLine(int argc, const char* const* argv, std::istream& in, std::ost
   const CLI::App* decode = AddDecode(app, options);
   const CLI::App* table = AddTable(app, options);
   const CLI::App* trace = AddTrace(app, options);
+  std::vector<const CLI::App*> extraCommands;
+  for (const ExtraCommand& command : extra) {
+    extraCommands.push_back(command.add(app));
+  }
 
   try {
     app.parse(argc, argv);
@@ -117,6 +122,11 @@ int RunCommandLine(int argc, const char* const* argv, std::istream& in, std::ost
     }
     if (trace->parsed()) {
       return RunTrace(options, in, out, err);
+    }
+    for (std::size_t i = 0; i < extra.size(); ++i) {
+      if (extraCommands[i]->parsed()) {
+        return extra[i].run(in, out, err);
+      }
     }
   } catch (const InputError& error) {
     return ReportUsageError(app, error.what(), err);

@@ -67,12 +67,7 @@ KNXDPT DptWithBits(const std::string& text, int bits) {
 }
 
 void Decode(const Nelmo::KnxValueConverter& converter, const std::string& payload, int bits, TraceResult& result) {
-  const KnxStack::BinaryData data = ParseHex(payload);
-  const KnxStack::GroupValue groupValue(data, GroupValueBits(*result.dpt, bits, data));
-  result.converted = converter.FromKnxValue(*result.dpt, groupValue, result.value);
-  if (result.converted) {
-    result.subType = QuietEntry(converter, *result.dpt).subType;
-  }
+  ConvertGroupValue(converter, PayloadGroupValue(*result.dpt, payload, bits), result);
 }
 
 TraceResult DecodeTelegram(const Nelmo::KnxValueConverter& converter, LogForwarder& log, const Telegram& telegram) {
@@ -110,13 +105,31 @@ std::vector<TableRow> TableRows(const Nelmo::KnxValueConverter& converter) {
 
 }  // namespace
 
+bool EncodeValue(const Nelmo::KnxValueConverter& converter, const Options& options, KNXDPT& dpt,
+                 KnxStack::GroupValue& groupValue) {
+  const ULOVALUE value = ValueToSend(converter, dpt, options);
+  return converter.ToKnxValue(dpt, value, groupValue);
+}
+
+KnxStack::GroupValue PayloadGroupValue(const KNXDPT& dpt, const std::string& payload, int bits) {
+  const KnxStack::BinaryData data = ParseHex(payload);
+  return KnxStack::GroupValue(data, GroupValueBits(dpt, bits, data));
+}
+
+void ConvertGroupValue(const Nelmo::KnxValueConverter& converter, const KnxStack::GroupValue& groupValue,
+                       TraceResult& result) {
+  result.converted = converter.FromKnxValue(*result.dpt, groupValue, result.value);
+  if (result.converted) {
+    result.subType = QuietEntry(converter, *result.dpt).subType;
+  }
+}
+
 int RunEncode(const Options& options, std::ostream& out, std::ostream& err) {
   KNXDPT dpt = DptWithBits(options.dpt, options.bits);
   const LogForwarder log(options.logLevel, err);
   const Nelmo::KnxValueConverter converter;
-  const ULOVALUE value = ValueToSend(converter, dpt, options);
   KnxStack::GroupValue groupValue;
-  if (!converter.ToKnxValue(dpt, value, groupValue)) {
+  if (!EncodeValue(converter, options, dpt, groupValue)) {
     return ExitRefused;
   }
   out << (options.json ? JsonLine(EncodeJson(dpt, groupValue)) : groupValue.GetRawData().ToString()) << '\n';
