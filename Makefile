@@ -6,7 +6,7 @@ FUZZ_SECONDS ?= 60
 FUZZ_SECONDS_IN_TEST ?= 10
 CMAKE_FLAGS ?=
 PACKAGES := g++ cmake make googletest libgtest-dev libgmock-dev libhowardhinnant-date-dev \
-            g++-arm-linux-gnueabihf qemu-user libcli11-dev nlohmann-json3-dev \
+            g++-arm-linux-gnueabihf qemu-user nlohmann-json3-dev \
             clang libclang-rt-14-dev valgrind libbenchmark-dev clang-format clang-tidy pkgconf dpkg-dev
 
 .PHONY: all deps demo test test-host test-armhf test-asan test-fuzz test-valgrind \

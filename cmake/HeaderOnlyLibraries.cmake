@@ -1,5 +1,5 @@
 # Header-only libraries of the command-line tool, from Debian's packages:
-# CLI11 (libcli11-dev) and nlohmann-json (nlohmann-json3-dev). A cross
+# nlohmann-json (nlohmann-json3-dev). A cross
 # compiler does not search the host's /usr/include, so when cross-compiling
 # the header directories are copied into the build tree, as for the date
 # library; pointing the cross compiler at /usr/include itself would pull in
@@ -27,5 +27,4 @@ function(knxconv_header_only_library target header directory)
   target_include_directories(${target} SYSTEM INTERFACE $<BUILD_INTERFACE:${_include_dir}>)
 endfunction()
 
-knxconv_header_only_library(KnxconvCli11 CLI/CLI.hpp CLI)
 knxconv_header_only_library(KnxconvJson nlohmann/json.hpp nlohmann)

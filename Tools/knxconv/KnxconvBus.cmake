@@ -26,7 +26,7 @@ target_link_libraries(KnxconvAddresses PUBLIC KnxconvCore PRIVATE pugixml::pugix
 knxconv_set_warnings(KnxconvAddresses)
 
 add_library(KnxconvBus STATIC
-  Bus/BusCommandLine.cpp
+  Bus/BusCommands.cpp
   Bus/BusConnection.cpp
   Bus/BusDecoder.cpp
   Bus/BusLine.cpp
@@ -37,8 +37,7 @@ add_library(KnxconvBus STATIC
   Bus/StopSignal.cpp)
 target_include_directories(KnxconvBus PUBLIC ${CMAKE_CURRENT_SOURCE_DIR}/Bus)
 target_include_directories(KnxconvBus SYSTEM PRIVATE ${KNXCONV_EIBCLIENT_INCLUDE_DIR})
-target_link_libraries(KnxconvBus PUBLIC KnxconvAddresses KnxconvCore PRIVATE KnxconvCli11
-                      ${KNXCONV_EIBCLIENT_LIBRARY})
+target_link_libraries(KnxconvBus PUBLIC KnxconvAddresses KnxconvCore PRIVATE ${KNXCONV_EIBCLIENT_LIBRARY})
 knxconv_set_warnings(KnxconvBus)
 
 target_link_libraries(knxconv PRIVATE KnxconvBus)

@@ -2,22 +2,27 @@
 #include <iostream>
 
 #include "CommandLine.h"
-#include "Commands.h"
+#include "StandardCommands.h"
 #ifdef KNXCONV_WITH_BUS
-#include "BusCommandLine.h"
+#include "BusCommands.h"
 #endif
+#include "OutputContext.h"
+#include "TextEscape.h"
 
 int main(int argc, char** argv) {
+  // The streams then write to the descriptors themselves, so a failed write
+  // fails the stream at once with its errno (stdio would report it later,
+  // without one).
+  std::ios::sync_with_stdio(false);
   try {
+    Knxconv::CommandRegistry registry = Knxconv::StandardCommands();
 #ifdef KNXCONV_WITH_BUS
-    Knxconv::BusOptions busOptions;
-    return Knxconv::RunCommandLine(argc, argv, std::cin, std::cout, std::cerr, Knxconv::BusCommandLine(busOptions));
-#else
-    return Knxconv::RunCommandLine(argc, argv, std::cin, std::cout, std::cerr);
+    Knxconv::AddBusCommands(registry);
 #endif
+    return Knxconv::RunCommandLine(registry, argc, argv, std::cin, std::cout, std::cerr);
   } catch (const std::exception& error) {
     // Nothing the library throws is caught by the commands themselves.
-    std::cerr << "knxconv: " << error.what() << '\n';
+    std::cerr << "knxconv: " << Knxconv::EscapeText(error.what()) << '\n';
     return Knxconv::ExitRefused;
   }
 }

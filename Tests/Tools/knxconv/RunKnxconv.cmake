@@ -2,8 +2,11 @@
 # error. Called by CTest as
 #   cmake -DPROGRAM=... [-DEMULATOR=...] -DARGS=a|b|c -DSTATUS=n
 #         [-DSTDOUT=line | -DSTDOUT_FILE=file | -DSTDOUT_REGEX=re | -DSTDOUT_EMPTY=ON]
-#         [-DSTDERR_REGEX=re | -DSTDERR_EMPTY=ON] [-DSTDIN_FILE=file] -P RunKnxconv.cmake
-# Lists are joined with "|" so that arguments may hold blanks.
+#         [-DSTDERR=line | -DSTDERR_REGEX=re | -DSTDERR_EMPTY=ON] [-DSTDIN_FILE=file]
+#         [-DSTDOUT_DEVICE=path] -P RunKnxconv.cmake
+# Lists are joined with "|" so that arguments may hold blanks. STDOUT_DEVICE
+# sends standard output to a device such as /dev/full (through the shell, as a
+# user would); where the device does not exist the test is skipped.
 string(REPLACE "|" ";" _args "${ARGS}")
 string(REPLACE "|" ";" _emulator "${EMULATOR}")
 set(_input)
@@ -11,8 +14,23 @@ if(STDIN_FILE)
   set(_input INPUT_FILE ${STDIN_FILE})
 endif()
 
-execute_process(COMMAND ${_emulator} ${PROGRAM} ${_args} ${_input}
-                OUTPUT_VARIABLE _out ERROR_VARIABLE _err RESULT_VARIABLE _status)
+if(STDOUT_DEVICE)
+  if(NOT EXISTS ${STDOUT_DEVICE})
+    message("SKIPPED: ${STDOUT_DEVICE} does not exist")
+    return()
+  endif()
+  # Each word quoted for the shell; the arguments hold no single quotes.
+  set(_command)
+  foreach(_word IN LISTS _emulator ITEMS ${PROGRAM} ${_args})
+    string(APPEND _command " '${_word}'")
+  endforeach()
+  execute_process(COMMAND sh -c "exec ${_command} > ${STDOUT_DEVICE}" ${_input}
+                  ERROR_VARIABLE _err RESULT_VARIABLE _status)
+  set(_out)
+else()
+  execute_process(COMMAND ${_emulator} ${PROGRAM} ${_args} ${_input}
+                  OUTPUT_VARIABLE _out ERROR_VARIABLE _err RESULT_VARIABLE _status)
+endif()
 
 set(_failures)
 if(NOT "${_status}" STREQUAL "${STATUS}")
@@ -33,6 +51,9 @@ if(DEFINED STDOUT_REGEX AND NOT "${_out}" MATCHES "${STDOUT_REGEX}")
 endif()
 if(STDOUT_EMPTY AND NOT "${_out}" STREQUAL "")
   list(APPEND _failures "standard output is not empty")
+endif()
+if(DEFINED STDERR AND NOT "${_err}" STREQUAL "${STDERR}\n")
+  list(APPEND _failures "standard error differs from:\n${STDERR}")
 endif()
 if(DEFINED STDERR_REGEX AND NOT "${_err}" MATCHES "${STDERR_REGEX}")
   list(APPEND _failures "standard error does not match: ${STDERR_REGEX}")

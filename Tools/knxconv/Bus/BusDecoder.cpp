@@ -1,9 +1,9 @@
 #include "BusDecoder.h"
 
 #include "BusAddress.h"
-#include "Commands.h"
+#include "Conversion.h"
 #include "EtsDptText.h"
-#include "InputError.h"
+#include "UsageError.h"
 
 namespace Knxconv {
 
@@ -15,9 +15,8 @@ std::string PayloadHex(const GroupFrame& groupFrame) {
 
 }  // namespace
 
-BusDecoder::BusDecoder(const std::vector<std::string>& dpts, const std::string& addressFile, int logLevel,
-                       std::ostream& err)
-    : m_log(logLevel, err) {
+BusDecoder::BusDecoder(const std::vector<std::string>& dpts, const std::string& addressFile, OutputContext& context)
+    : m_context(context) {
   if (!addressFile.empty()) {
     m_book = ReadAddressFile(addressFile);
   }
@@ -26,7 +25,7 @@ BusDecoder::BusDecoder(const std::vector<std::string>& dpts, const std::string& 
     const std::optional<KNXDPT> dpt =
         equals == std::string::npos ? std::nullopt : ParseEtsDpt(std::string_view(text).substr(equals + 1));
     if (!dpt) {
-      throw InputError("--dpt wants GA=DPT, such as 1/2/3=9.001: '" + text + "'");
+      throw UsageError("--dpt wants GA=DPT, such as 1/2/3=9.001: '" + text + "'");
     }
     m_dpts[ParseGroupAddress(std::string_view(text).substr(0, equals))] = *dpt;
   }
@@ -66,20 +65,20 @@ std::optional<KNXDPT> BusDecoder::DptOf(std::uint16_t address) const {
 }
 
 void BusDecoder::Convert(const GroupFrame& groupFrame, BusLine& line) {
-  m_log.TakeErrors();
+  m_context.TakeLogErrors();
   ConvertGroupValue(m_converter, groupFrame.value, line.result);
   line.decoded = line.result.converted;
   if (!line.decoded) {
-    line.result.error = m_log.TakeErrors();
+    line.result.error = m_context.TakeLogErrors();
     if (line.result.error.empty()) {
       line.result.error = "not converted";
     }
   }
 }
 
-void WriteBusLine(const BusLine& line, bool json, std::ostream& out) {
-  out << (json ? JsonLine(BusLineJson(line)) : BusLineText(line)) << '\n';
-  out.flush();
+void WriteBusLine(const BusLine& line, OutputContext& context) {
+  context.PrintResult(BusLineText(line), BusLineJson(line));
+  context.Flush();
 }
 
 }  // namespace Knxconv

@@ -2,7 +2,6 @@
 
 #include <cstdint>
 #include <map>
-#include <ostream>
 #include <string>
 #include <vector>
 
@@ -10,7 +9,7 @@
 #include "BusConnection.h"
 #include "BusLine.h"
 #include "KnxValueConverterApi.h"
-#include "LogForwarder.h"
+#include "OutputContext.h"
 
 namespace Knxconv {
 
@@ -19,9 +18,10 @@ namespace Knxconv {
 // raw. The value goes through the same conversion as decode and trace.
 class BusDecoder {
  public:
-  // dpts are "GA=DPT" texts; addressFile may be empty. Throws InputError
-  // for a malformed --dpt and AddressFileError for a malformed file.
-  BusDecoder(const std::vector<std::string>& dpts, const std::string& addressFile, int logLevel, std::ostream& err);
+  // dpts are "GA=DPT" texts; addressFile may be empty. Throws UsageError
+  // for a malformed --dpt and AddressFileError for a malformed file. The
+  // library's errors are taken from context.
+  BusDecoder(const std::vector<std::string>& dpts, const std::string& addressFile, OutputContext& context);
 
   BusLine Decode(const BusFrame& frame);
   void SetDpt(std::uint16_t address, const KNXDPT& dpt) { m_dpts[address] = dpt; }
@@ -32,11 +32,11 @@ class BusDecoder {
 
   std::map<std::uint16_t, KNXDPT> m_dpts;
   AddressBook m_book;
-  LogForwarder m_log;
+  OutputContext& m_context;
   Nelmo::KnxValueConverter m_converter;
 };
 
 // One line of output, flushed at once so that a pipe sees it as it comes.
-void WriteBusLine(const BusLine& line, bool json, std::ostream& out);
+void WriteBusLine(const BusLine& line, OutputContext& context);
 
 }  // namespace Knxconv

@@ -1,21 +1,19 @@
 #include "BusSession.h"
 
 #include "AddressBook.h"
-#include "Commands.h"
 #include "StopSignal.h"
 
 namespace Knxconv {
 
-int RunBusCommand(std::ostream& err, const std::function<int()>& body) {
+int RunBusCommand(OutputContext& context, const std::function<int()>& body) {
   InstallStopHandlers();
   try {
     return body();
   } catch (const BusError& error) {
-    err << "knxconv: " << error.what() << '\n';
+    return context.Fail(ExitUsage, error.what());
   } catch (const AddressFileError& error) {
-    err << "knxconv: " << error.what() << '\n';
+    return context.Fail(ExitUsage, error.what());
   }
-  return ExitUsage;
 }
 
 std::unique_ptr<BusConnection> ConnectPatiently(const std::string& url) {

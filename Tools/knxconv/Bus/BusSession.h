@@ -2,10 +2,10 @@
 
 #include <functional>
 #include <memory>
-#include <ostream>
 #include <string>
 
 #include "BusConnection.h"
+#include "OutputContext.h"
 
 namespace Knxconv {
 
@@ -15,8 +15,8 @@ constexpr double ConnectTimeoutSeconds = 3;
 constexpr double ReconnectIntervalSeconds = 0.5;
 
 // Runs a bus command's body: the errors that end a bus command (the daemon,
-// the addresses file) become one line on err and ExitUsage.
-int RunBusCommand(std::ostream& err, const std::function<int()>& body);
+// the addresses file) become one line and ExitUsage.
+int RunBusCommand(OutputContext& context, const std::function<int()>& body);
 
 // Connects, trying again every ReconnectIntervalSeconds until it works;
 // null when a stop was asked for first.

@@ -16,27 +16,28 @@ std::unique_ptr<BusConnection> FirstConnection(const BusOptions& options) {
   return ConnectPatiently(options.url);
 }
 
-// Receives until a stop; a lost daemon ends it unless reconnecting.
-void Monitor(const BusOptions& options, BusDecoder& decoder, std::ostream& out, std::ostream& err) {
+// Receives until a stop or an unwritable output; a lost daemon ends it
+// unless reconnecting.
+void Monitor(const BusOptions& options, BusDecoder& decoder, OutputContext& context) {
   std::unique_ptr<BusConnection> connection = FirstConnection(options);
   if (connection) {
-    err << "knxconv: connected to knxd at " << options.url << '\n';
+    context.Message("connected to knxd at " + options.url);
   }
   BusFrame frame;
-  while (connection && !StopRequested()) {
+  while (connection && !StopRequested() && !context.OutputFailed()) {
     try {
       if (connection->Receive(ReceiveSliceSeconds, frame)) {
-        WriteBusLine(decoder.Decode(frame), options.value.json, out);
+        WriteBusLine(decoder.Decode(frame), context);
       }
     } catch (const BusError& error) {
       if (!options.reconnect) {
         throw;
       }
-      err << "knxconv: " << error.what() << "; reconnecting\n";
+      context.Message(std::string(error.what()) + "; reconnecting");
       connection.reset();
       connection = ConnectPatiently(options.url);
       if (connection) {
-        err << "knxconv: reconnected to knxd at " << options.url << '\n';
+        context.Message("reconnected to knxd at " + options.url);
       }
     }
   }
@@ -44,10 +45,11 @@ void Monitor(const BusOptions& options, BusDecoder& decoder, std::ostream& out, 
 
 }  // namespace
 
-int RunMonitor(const BusOptions& options, std::ostream& out, std::ostream& err) {
-  return RunBusCommand(err, [&]() {
-    BusDecoder decoder(options.dpts, options.addresses, options.value.logLevel, err);
-    Monitor(options, decoder, out, err);
+int RunMonitor(const Arguments& arguments, OutputContext& context) {
+  const BusOptions options = ReadBusOptions(arguments);
+  return RunBusCommand(context, [&]() {
+    BusDecoder decoder(options.dpts, options.addresses, context);
+    Monitor(options, decoder, context);
     return static_cast<int>(ExitSuccess);
   });
 }

@@ -6,6 +6,7 @@
 #include "BusAddress.h"
 #include "BusCommands.h"
 #include "BusSession.h"
+#include "Conversion.h"
 #include "EtsDptText.h"
 #include "GroupFrame.h"
 #include "InputError.h"
@@ -58,7 +59,7 @@ Outgoing ReadOutgoing(const Telegram& telegram) {
 // Sends the trace's telegrams, each after its delay from the first scaled
 // by speed (0: no waiting). A line that is no telegram is told on err and
 // skipped.
-int Replay(std::istream& in, const BusOptions& options, std::ostream& err) {
+int Replay(std::istream& in, const BusOptions& options, OutputContext& context) {
   TraceReader reader(in);
   BusConnection connection(options.url, ConnectTimeoutSeconds);
   std::optional<double> first;
@@ -75,7 +76,7 @@ int Replay(std::istream& in, const BusOptions& options, std::ostream& err) {
       }
       connection.Send(outgoing.destination, outgoing.frame);
     } catch (const InputError& error) {
-      err << "knxconv: line " << telegram.lineNumber << ": " << error.what() << '\n';
+      context.Message("line " + std::to_string(telegram.lineNumber) + ": " + error.what());
       status = ExitRefused;
     }
   }
@@ -84,12 +85,14 @@ int Replay(std::istream& in, const BusOptions& options, std::ostream& err) {
 
 }  // namespace
 
-int RunReplay(const BusOptions& options, std::ostream& /*out*/, std::ostream& err) {
-  std::ifstream file(options.value.file, std::ios::binary);
+int RunReplay(const Arguments& arguments, OutputContext& context) {
+  const BusOptions options = ReadBusOptions(arguments);
+  const std::string name = arguments.Positional("FILE").value_or("");
+  std::ifstream file(name, std::ios::binary);
   if (!file) {
-    throw InputError("cannot read the trace " + options.value.file);
+    throw InputError("cannot read the trace " + name);
   }
-  return RunBusCommand(err, [&]() { return Replay(file, options, err); });
+  return RunBusCommand(context, [&]() { return Replay(file, options, context); });
 }
 
 }  // namespace Knxconv

@@ -5,19 +5,24 @@
 #include "BusCommands.h"
 #include "BusDecoder.h"
 #include "BusSession.h"
+#include "Conversion.h"
 #include "EtsDptText.h"
-#include "InputError.h"
+#include "UsageError.h"
 
 namespace Knxconv {
 
 namespace {
 
-KNXDPT RequiredDpt(const std::string& text) {
-  const std::optional<KNXDPT> dpt = ParseEtsDpt(text);
+KNXDPT RequiredDpt(const Arguments& arguments) {
+  const std::optional<KNXDPT> dpt = ParseEtsDpt(arguments.Positional("DPT").value_or(""));
   if (!dpt) {
-    throw InputError("DPT is required");
+    throw UsageError("DPT is required");
   }
   return *dpt;
+}
+
+std::uint16_t RequiredGroupAddress(const Arguments& arguments) {
+  return ParseGroupAddress(arguments.Positional("GA").value_or(""));
 }
 
 // Waits for the first response or write to address; false on timeout.
@@ -46,39 +51,39 @@ std::string Seconds(double seconds) {
 
 }  // namespace
 
-int RunSend(const BusOptions& options, std::ostream& out, std::ostream& err) {
-  const std::uint16_t address = ParseGroupAddress(options.groupAddress);
-  KNXDPT dpt = RequiredDpt(options.value.dpt);
-  const LogForwarder log(options.value.logLevel, err);
+int RunSend(const Arguments& arguments, OutputContext& context) {
+  const BusOptions options = ReadBusOptions(arguments);
+  const std::uint16_t address = RequiredGroupAddress(arguments);
+  KNXDPT dpt = RequiredDpt(arguments);
   const Nelmo::KnxValueConverter converter;
   KnxStack::GroupValue groupValue;
-  if (!EncodeValue(converter, options.value, dpt, groupValue)) {
-    return ExitRefused;
+  if (!converter.ToKnxValue(dpt, ValueToSend(converter, dpt, arguments), groupValue)) {
+    return context.Refused();
   }
-  return RunBusCommand(err, [&]() {
+  return RunBusCommand(context, [&]() {
     BusConnection connection(options.url, ConnectTimeoutSeconds);
     connection.Send(address, EncodeGroupFrame(GroupService::Write, groupValue));
-    out << (options.value.json ? JsonLine(EncodeJson(dpt, groupValue)) : groupValue.GetRawData().ToString()) << '\n';
+    context.PrintResult(groupValue.GetRawData().ToString(), EncodeJson(dpt, groupValue));
     return static_cast<int>(ExitSuccess);
   });
 }
 
-int RunRead(const BusOptions& options, std::ostream& out, std::ostream& err) {
-  const std::uint16_t address = ParseGroupAddress(options.groupAddress);
-  const KNXDPT dpt = RequiredDpt(options.value.dpt);
-  return RunBusCommand(err, [&]() {
-    BusDecoder decoder({}, options.addresses, options.value.logLevel, err);
+int RunRead(const Arguments& arguments, OutputContext& context) {
+  const BusOptions options = ReadBusOptions(arguments);
+  const std::uint16_t address = RequiredGroupAddress(arguments);
+  const KNXDPT dpt = RequiredDpt(arguments);
+  return RunBusCommand(context, [&]() {
+    BusDecoder decoder({}, options.addresses, context);
     decoder.SetDpt(address, dpt);
     BusConnection connection(options.url, ConnectTimeoutSeconds);
     connection.Send(address, EncodeGroupFrame(GroupService::Read, KnxStack::GroupValue()));
     BusFrame frame;
     if (!AwaitAnswer(connection, address, options.timeout, frame)) {
-      err << "knxconv: no answer from " << FormatGroupAddress(address) << " within " << Seconds(options.timeout)
-          << " s\n";
-      return static_cast<int>(ExitRefused);
+      return context.Fail(
+          ExitRefused, "no answer from " + FormatGroupAddress(address) + " within " + Seconds(options.timeout) + " s");
     }
     const BusLine line = decoder.Decode(frame);
-    WriteBusLine(line, options.value.json, out);
+    WriteBusLine(line, context);
     return static_cast<int>(line.decoded ? ExitSuccess : ExitRefused);
   });
 }

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "TextEscape.h"
+
 namespace Knxconv {
 
 namespace {
@@ -22,7 +24,8 @@ const char* LevelName(UloLogLevel level) {
 
 }  // namespace
 
-LogForwarder::LogForwarder(int threshold, std::ostream& err) : m_threshold(threshold), m_err(err) {
+LogForwarder::LogForwarder(int threshold, std::ostream& err, std::function<void()> beforeWrite)
+    : m_threshold(threshold), m_err(err), m_beforeWrite(std::move(beforeWrite)) {
   // Errors are always received, to be kept, even when they are not shown.
   UloLogSetThreshold(std::min(threshold, static_cast<int>(ULO_LOG_ERROR)));
   UloLogSetSink([this](UloLogLevel level, std::string_view file, std::string_view function, std::string_view text,
@@ -45,7 +48,13 @@ std::string LogForwarder::TakeErrors() {
 void LogForwarder::Receive(UloLogLevel level, std::string_view file, std::string_view function, std::string_view text,
                            int line) {
   if (static_cast<int>(level) >= m_threshold) {
-    m_err << '[' << LevelName(level) << "] " << file << "::" << function << ':' << line << ": " << text << '\n';
+    if (m_beforeWrite) {
+      m_beforeWrite();
+    }
+    // Some messages carry the raw bytes of a value.
+    m_err << EscapeText("[" + std::string(LevelName(level)) + "] " + std::string(file) + "::" + std::string(function) +
+                        ':' + std::to_string(line) + ": " + std::string(text))
+          << '\n';
   }
   if (level >= ULO_LOG_ERROR && (m_errors.empty() || m_errors.back() != text)) {
     m_errors.emplace_back(text);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <ostream>
 #include <string>
 #include <vector>
@@ -13,7 +14,8 @@ namespace Knxconv {
 // kept, so that a trace line can say why its telegram did not convert.
 class LogForwarder {
  public:
-  LogForwarder(int threshold, std::ostream& err);
+  // beforeWrite, if given, runs before each line goes to err.
+  LogForwarder(int threshold, std::ostream& err, std::function<void()> beforeWrite = nullptr);
   ~LogForwarder();
   LogForwarder(const LogForwarder&) = delete;
   LogForwarder& operator=(const LogForwarder&) = delete;
@@ -26,6 +28,7 @@ class LogForwarder {
 
   int m_threshold;
   std::ostream& m_err;
+  std::function<void()> m_beforeWrite;
   std::vector<std::string> m_errors;
 };
 

@@ -6,6 +6,7 @@
 
 #include "ConverterInfo.h"
 #include "DptText.h"
+#include "TextEscape.h"
 #include "ValueText.h"
 
 namespace Knxconv {
@@ -41,7 +42,7 @@ std::vector<std::string> RowColumns(const TableRow& row) {
 }  // namespace
 
 std::string JsonLine(const Json& json) {
-  return json.dump(-1, ' ', false, Json::error_handler_t::replace);
+  return EscapeJsonControls(json.dump(-1, ' ', false, Json::error_handler_t::replace));
 }
 
 Json ValueJson(const ULOVALUE& value) {

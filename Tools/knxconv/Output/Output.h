@@ -13,7 +13,8 @@ namespace Knxconv {
 
 using Json = nlohmann::ordered_json;
 
-// One line of JSON; text that is not UTF-8 is replaced, never thrown over.
+// One line of JSON; bytes that are not UTF-8 become U+FFFD (never thrown
+// over), control characters are escaped, DEL and C1 included.
 std::string JsonLine(const Json& json);
 
 // The value as JSON: booleans and numbers as such, no value as null, texts,

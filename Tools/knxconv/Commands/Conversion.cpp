@@ -1,0 +1,78 @@
+#include "Conversion.h"
+
+#include "DptText.h"
+#include "HexText.h"
+#include "LogForwarder.h"
+#include "UsageError.h"
+#include "ValueText.h"
+
+namespace Knxconv {
+
+namespace {
+
+// Values of up to 6 bits travel inside the telegram's control field.
+constexpr std::int32_t ControlFieldBits = 6;
+
+// The group value's size: as given, else the DPT's format size where that
+// fits the control field, else all the bytes.
+unsigned int GroupValueBits(const KNXDPT& dpt, int bits, const KnxStack::BinaryData& data) {
+  if (bits > 0) {
+    return static_cast<unsigned int>(bits);
+  }
+  const std::int32_t formatBits = Nelmo::KnxDptFormat::GetBitSize(dpt);
+  if (formatBits > 0 && formatBits <= ControlFieldBits) {
+    return static_cast<unsigned int>(formatBits);
+  }
+  return 8U * data.GetLength();
+}
+
+}  // namespace
+
+const Nelmo::DptValueEntry& QuietEntry(const Nelmo::KnxValueConverter& converter, const KNXDPT& dpt) {
+  const QuietLog quiet;
+  return converter.GetEntry(dpt);
+}
+
+KNXDPT DptWithBits(const std::string& text, int bits) {
+  KNXDPT dpt = ParseDpt(text);
+  dpt.bitSize = static_cast<std::uint8_t>(bits);
+  return dpt;
+}
+
+void Decode(const Nelmo::KnxValueConverter& converter, const std::string& payload, int bits, TraceResult& result) {
+  ConvertGroupValue(converter, PayloadGroupValue(*result.dpt, payload, bits), result);
+}
+
+KnxStack::GroupValue PayloadGroupValue(const KNXDPT& dpt, const std::string& payload, int bits) {
+  const KnxStack::BinaryData data = ParseHex(payload);
+  return KnxStack::GroupValue(data, GroupValueBits(dpt, bits, data));
+}
+
+void ConvertGroupValue(const Nelmo::KnxValueConverter& converter, const KnxStack::GroupValue& groupValue,
+                       TraceResult& result) {
+  result.converted = converter.FromKnxValue(*result.dpt, groupValue, result.value);
+  if (result.converted) {
+    result.subType = QuietEntry(converter, *result.dpt).subType;
+  }
+}
+
+ULOVALUE ValueToSend(const Nelmo::KnxValueConverter& converter, const KNXDPT& dpt, const Arguments& arguments) {
+  UloValueType type = IVT_ANY;
+  if (const std::optional<std::string> typeName = arguments.Value("--type")) {
+    type = ParseValueType(*typeName);
+  } else if (dpt.mainNumber == 0) {
+    throw UsageError("without a DPT, --type must say what VALUE is");
+  } else {
+    type = QuietEntry(converter, dpt).valueType;
+  }
+  if (KindOf(type) == ValueKind::NoValue) {
+    return ULOVALUE(type);
+  }
+  const std::optional<std::string> value = arguments.Positional("VALUE");
+  if (!value) {
+    throw UsageError("VALUE is missing");
+  }
+  return ParseValue(type, *value, arguments.Flag("--summer-time"));
+}
+
+}  // namespace Knxconv

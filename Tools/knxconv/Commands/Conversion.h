@@ -1,0 +1,33 @@
+#pragma once
+
+#include <string>
+
+#include "Arguments.h"
+#include "KnxValueConverterApi.h"
+#include "Output.h"
+
+namespace Knxconv {
+
+// The row the library would use, looked up without the lookup's own log.
+const Nelmo::DptValueEntry& QuietEntry(const Nelmo::KnxValueConverter& converter, const KNXDPT& dpt);
+
+// The DPT as text with the bit size from --bits (0: none given).
+KNXDPT DptWithBits(const std::string& text, int bits);
+
+// Decodes hex payload as result.dpt into result; bits 0 takes the DPT's
+// size. Throws InputError for a payload that is not hex.
+void Decode(const Nelmo::KnxValueConverter& converter, const std::string& payload, int bits, TraceResult& result);
+
+// The group value of hex payload as Decode reads it. Throws InputError.
+KnxStack::GroupValue PayloadGroupValue(const KNXDPT& dpt, const std::string& payload, int bits);
+// What Decode makes of a group value, for result.dpt.
+void ConvertGroupValue(const Nelmo::KnxValueConverter& converter, const KnxStack::GroupValue& groupValue,
+                       TraceResult& result);
+
+// VALUE (and --type, --summer-time) as the value to send for dpt: read as
+// the type that --type names, else as the type of the DPT's row. A DPT
+// without a row gets the empty value, which the library then refuses with
+// its own message. Throws UsageError and InputError.
+ULOVALUE ValueToSend(const Nelmo::KnxValueConverter& converter, const KNXDPT& dpt, const Arguments& arguments);
+
+}  // namespace Knxconv

@@ -1,0 +1,13 @@
+#include "StandardCommands.h"
+
+namespace Knxconv {
+
+CommandRegistry StandardCommands() {
+  CommandRegistry registry;
+  AddConvertCommands(registry);
+  AddTableCommand(registry);
+  AddTraceCommand(registry);
+  return registry;
+}
+
+}  // namespace Knxconv
