@@ -10,11 +10,9 @@ find_package(pugixml QUIET)
 if(NOT KNXCONV_EIBCLIENT_INCLUDE_DIR OR NOT KNXCONV_EIBCLIENT_LIBRARY OR NOT TARGET pugixml::pugixml)
   message(STATUS "knxconv: libeibclient or pugixml not found for this target; "
                  "monitor, send, read and replay are left out")
-  set(KNXCONV_WITH_BUS OFF PARENT_SCOPE)
   return()
 endif()
 message(STATUS "knxconv: bus commands through ${KNXCONV_EIBCLIENT_LIBRARY}")
-set(KNXCONV_WITH_BUS ON PARENT_SCOPE)
 
 add_library(KnxconvAddresses STATIC
   Addresses/AddressBook.cpp
