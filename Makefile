@@ -82,6 +82,7 @@ test-fuzz: build-fuzz
 
 test-valgrind: build-host
 	scripts/valgrind-trace.sh build/host/Tools/knxconv/knxconv examples/telegrams.csv
+	scripts/valgrind-bus.sh build/host/Tools/knxconv/knxconv
 
 # The installed package as a server developer uses it (CMake and pkg-config).
 test-consumer: build-host
