@@ -40,3 +40,6 @@ knxconv_set_warnings(KnxconvBus)
 
 target_link_libraries(knxconv PRIVATE KnxconvBus)
 target_compile_definitions(knxconv PRIVATE KNXCONV_WITH_BUS)
+
+# The package notes the GPL linkage.
+install(FILES copyright DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/knxconv COMPONENT tool)

@@ -55,7 +55,7 @@ Columns ReadHeader(const std::vector<std::string>& header) {
     }
   }
   if (columns.names.empty()) {
-    throw InputError("the header has neither a \"Group name\" nor a \"Main\", \"Middle\", \"Sub\" column");
+    throw InputError(R"(the header has neither a "Group name" nor a "Main", "Middle", "Sub" column)");
   }
   return columns;
 }

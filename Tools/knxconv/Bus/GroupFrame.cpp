@@ -47,13 +47,15 @@ std::vector<std::uint8_t> EncodeGroupFrame(GroupService service, const KnxStack:
   if (service == GroupService::Read) {
     return frame;
   }
-  const KnxStack::BinaryData data = value.GetRawData();
-  const unsigned char* bytes = data.GetData();
+  const KnxStack::BinaryData& data = value.GetRawData();
   if (value.GetDefinedSize() <= ControlFieldBits) {
-    frame[1] |= data.GetLength() > 0 ? (bytes[0] & ControlFieldMask) : 0;
+    // Reads 0 where the value has no byte at all.
+    frame[1] |= data[0] & ControlFieldMask;
     return frame;
   }
-  frame.insert(frame.end(), bytes, bytes + data.GetLength());
+  for (unsigned int i = 0; i < data.GetLength(); ++i) {
+    frame.push_back(data[i]);
+  }
   return frame;
 }
 
