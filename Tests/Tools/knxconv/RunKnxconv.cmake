@@ -4,10 +4,17 @@
 #         [-DSTDOUT=line | -DSTDOUT_FILE=file | -DSTDOUT_REGEX=re | -DSTDOUT_EMPTY=ON]
 #         [-DSTDERR=line | -DSTDERR_REGEX=re | -DSTDERR_EMPTY=ON] [-DSTDIN_FILE=file]
 #         [-DSTDOUT_DEVICE=path] -P RunKnxconv.cmake
-# Lists are joined with "|" so that arguments may hold blanks. STDOUT_DEVICE
+# Lists are joined with "|" so that arguments may hold blanks; in the
+# expected texts, @LF@ stands for a line end and @SEMICOLON@ for ';'. STDOUT_DEVICE
 # sends standard output to a device such as /dev/full (through the shell, as a
 # user would); where the device does not exist the test is skipped.
 string(REPLACE "|" ";" _args "${ARGS}")
+foreach(_key STDOUT STDOUT_REGEX STDERR STDERR_REGEX)
+  if(DEFINED ${_key})
+    string(REPLACE "@LF@" "\n" ${_key} "${${_key}}")
+    string(REPLACE "@SEMICOLON@" ";" ${_key} "${${_key}}")
+  endif()
+endforeach()
 string(REPLACE "|" ";" _emulator "${EMULATOR}")
 set(_input)
 if(STDIN_FILE)

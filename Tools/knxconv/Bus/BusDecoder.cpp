@@ -77,8 +77,8 @@ void BusDecoder::Convert(const GroupFrame& groupFrame, BusLine& line) {
 }
 
 void WriteBusLine(const BusLine& line, OutputContext& context) {
+  context.FlushEachLine(true);
   context.PrintResult(BusLineText(line), BusLineJson(line));
-  context.Flush();
 }
 
 }  // namespace Knxconv
