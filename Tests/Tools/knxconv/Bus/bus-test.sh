@@ -64,7 +64,7 @@ write_kitchen() {
 }
 
 case_monitor_dpt_option() {
-  bus_start_knxd && bus_start_monitor --dpt 1/2/3=9.001 --dpt 1/2/4=1.001 --dpt 1/2/5=DPST-5-1 --dpt 1/2/7=DPT-2 || exit 1
+  bus_start_knxd && bus_start_monitor --dpt 1/2/3=DPT_Value_Temp --dpt 1/2/4=1.001 --dpt 1/2/5=DPST-5-1 --dpt 1/2/7=DPT-2 || exit 1
   tool groupwrite 1/2/3 0c 33
   tool groupswrite 1/2/4 1
   tool groupwrite 1/2/5 cc
