@@ -3,6 +3,7 @@
 #include "BusAddress.h"
 #include "Conversion.h"
 #include "EtsDptText.h"
+#include "PayloadSize.h"
 #include "UsageError.h"
 
 namespace Knxconv {
@@ -65,6 +66,11 @@ std::optional<KNXDPT> BusDecoder::DptOf(std::uint16_t address) const {
 }
 
 void BusDecoder::Convert(const GroupFrame& groupFrame, BusLine& line) {
+  // A payload too short for the DPT is refused as decode and trace refuse it.
+  if (auto error = PayloadSizeError(*line.result.dpt, 0, groupFrame.value.GetRawData())) {
+    line.result.error = std::move(*error);
+    return;
+  }
   m_context.TakeLogErrors();
   ConvertGroupValue(m_converter, groupFrame.value, line.result);
   line.decoded = line.result.converted;

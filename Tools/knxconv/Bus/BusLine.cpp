@@ -55,7 +55,7 @@ std::string BusLineText(const BusLine& line) {
   if (!line.result.error.empty()) {
     text += "  error: " + line.result.error;
   } else if (line.decoded) {
-    text += "  " + Padded(ValueTypeText(line.result.value.GetType()), TypeWidth) + " " + line.result.value.ToString();
+    text += "  " + Padded(ValueTypeText(line.result.value.GetType()), TypeWidth) + " " + line.result.text;
   }
   if (!line.name.empty()) {
     text += "  (" + line.name + ")";

@@ -56,8 +56,12 @@ int RunSend(const Arguments& arguments, OutputContext& context) {
   const std::uint16_t address = RequiredGroupAddress(arguments);
   KNXDPT dpt = RequiredDpt(arguments);
   const Nelmo::KnxValueConverter converter;
+  const ULOVALUE value = ValueToSend(converter, dpt, arguments);
+  if (const std::optional<std::string> error = SendError(converter, dpt, value)) {
+    return context.Fail(ExitRefused, *error);
+  }
   KnxStack::GroupValue groupValue;
-  if (!converter.ToKnxValue(dpt, ValueToSend(converter, dpt, arguments), groupValue)) {
+  if (!converter.ToKnxValue(dpt, value, groupValue)) {
     return context.Refused();
   }
   return RunBusCommand(context, [&]() {

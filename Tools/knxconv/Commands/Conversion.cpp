@@ -1,8 +1,11 @@
 #include "Conversion.h"
 
+#include "CalendarCheck.h"
 #include "DptText.h"
 #include "HexText.h"
 #include "LogForwarder.h"
+#include "NumberDisplay.h"
+#include "PayloadSize.h"
 #include "UsageError.h"
 #include "ValueText.h"
 
@@ -40,7 +43,12 @@ KNXDPT DptWithBits(const std::string& text, int bits) {
 }
 
 void Decode(const Nelmo::KnxValueConverter& converter, const std::string& payload, int bits, TraceResult& result) {
-  ConvertGroupValue(converter, PayloadGroupValue(*result.dpt, payload, bits), result);
+  const KnxStack::BinaryData data = ParseHex(payload);
+  if (auto error = PayloadSizeError(*result.dpt, static_cast<unsigned int>(bits), data)) {
+    result.error = std::move(*error);
+    return;
+  }
+  ConvertGroupValue(converter, KnxStack::GroupValue(data, GroupValueBits(*result.dpt, bits, data)), result);
 }
 
 KnxStack::GroupValue PayloadGroupValue(const KNXDPT& dpt, const std::string& payload, int bits) {
@@ -52,7 +60,9 @@ void ConvertGroupValue(const Nelmo::KnxValueConverter& converter, const KnxStack
                        TraceResult& result) {
   result.converted = converter.FromKnxValue(*result.dpt, groupValue, result.value);
   if (result.converted) {
-    result.subType = QuietEntry(converter, *result.dpt).subType;
+    const Nelmo::DptValueEntry& entry = QuietEntry(converter, *result.dpt);
+    result.subType = entry.subType;
+    result.text = DisplayText(entry.GetConverter(), *result.dpt, result.value, groupValue);
   }
 }
 
@@ -73,6 +83,14 @@ ULOVALUE ValueToSend(const Nelmo::KnxValueConverter& converter, const KNXDPT& dp
     throw UsageError("VALUE is missing");
   }
   return ParseValue(type, *value, arguments.Flag("--summer-time"));
+}
+
+std::optional<std::string> SendError(const Nelmo::KnxValueConverter& converter, const KNXDPT& dpt,
+                                     const ULOVALUE& value) {
+  if (auto error = CalendarError(value)) {
+    return error;
+  }
+  return YearWindowError(dpt, QuietEntry(converter, dpt).GetConverter(), value);
 }
 
 }  // namespace Knxconv

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include "Arguments.h"
@@ -15,7 +16,8 @@ const Nelmo::DptValueEntry& QuietEntry(const Nelmo::KnxValueConverter& converter
 KNXDPT DptWithBits(const std::string& text, int bits);
 
 // Decodes hex payload as result.dpt into result; bits 0 takes the DPT's
-// size. Throws InputError for a payload that is not hex.
+// size. A payload that cannot hold the DPT's value is not decoded: its
+// reason is result.error. Throws InputError for a payload that is not hex.
 void Decode(const Nelmo::KnxValueConverter& converter, const std::string& payload, int bits, TraceResult& result);
 
 // The group value of hex payload as Decode reads it. Throws InputError.
@@ -29,5 +31,10 @@ void ConvertGroupValue(const Nelmo::KnxValueConverter& converter, const KnxStack
 // without a row gets the empty value, which the library then refuses with
 // its own message. Throws UsageError and InputError.
 ULOVALUE ValueToSend(const Nelmo::KnxValueConverter& converter, const KNXDPT& dpt, const Arguments& arguments);
+
+// Why the value read for dpt is not sent, or nullopt: the converters send
+// impossible dates and times as they are given.
+std::optional<std::string> SendError(const Nelmo::KnxValueConverter& converter, const KNXDPT& dpt,
+                                     const ULOVALUE& value);
 
 }  // namespace Knxconv

@@ -147,7 +147,7 @@ std::string TraceText(const TraceResult& result) {
   if (!result.converted) {
     return text + "error: " + result.error;
   }
-  text += Padded(ValueTypeText(result.value.GetType()), TypeWidth) + " " + result.value.ToString();
+  text += Padded(ValueTypeText(result.value.GetType()), TypeWidth) + " " + result.text;
   // An empty value leaves no blanks at the end of the line.
   text.erase(text.find_last_not_of(' ') + 1);
   return text;

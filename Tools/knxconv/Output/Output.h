@@ -47,6 +47,8 @@ struct TraceResult {
   std::optional<KNXDPT> dpt;
   bool converted = false;
   ULOVALUE value;
+  // The value as the text output shows it.
+  std::string text;
   UloDP::UloValueSubType subType = UloDP::IVST_NONE;
   std::string error;
 };

@@ -82,7 +82,7 @@ case_monitor_dpt_option() {
 1/2/7      write     2.000    [03]  IVT_BOOL      true
 1/2/9      write     raw      [12 34]
 1/2/3      read      9.001    []
-1/2/3      write     9.001    [0C]  error: Failed to convert a GroupValue for DPT 9.1 because of unexpected bit size: 8, expected: 16
+1/2/3      write     9.001    [0C]  error: the payload 0C has 1 byte, DPT 9.001 needs 2 bytes
 1/2/9      write     raw      [2A]
 LINES
 }
@@ -99,7 +99,7 @@ monitor_with_file() {
 1/2/5      write     5.000    [CC]  IVT_BYTE      204  (Kitchen dimmer)
 1/2/6      write     raw      [05]  (Kitchen scene)
 2/0/1      write     1.005    [00]  IVT_BOOL      false  ($2)
-2/0/2      write     9.001    [86 C0]  IVT_DOUBLE    -3.1999999999999886  (Außentemperatur)
+2/0/2      write     9.001    [86 C0]  IVT_DOUBLE    -3.2  (Außentemperatur)
 LINES
 }
 
