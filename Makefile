@@ -7,15 +7,17 @@ FUZZ_SECONDS_IN_TEST ?= 10
 CMAKE_FLAGS ?=
 # What the library and the tool need to build (make demo); a dependency of
 # the tool joins this list.
-DEMO_PACKAGES = g++ cmake make libhowardhinnant-date-dev nlohmann-json3-dev
-# Everything else that make test uses.
+DEMO_PACKAGES = g++ cmake make libhowardhinnant-date-dev nlohmann-json3-dev libpugixml-dev knxd-dev
+# Everything else that make test uses (the daemon and its tools for the bus
+# tests).
 PACKAGES = $(DEMO_PACKAGES) googletest libgtest-dev libgmock-dev \
            g++-arm-linux-gnueabihf qemu-user \
-           clang libclang-rt-14-dev valgrind libbenchmark-dev clang-format clang-tidy pkgconf dpkg-dev time
+           clang libclang-rt-14-dev valgrind libbenchmark-dev clang-format clang-tidy pkgconf dpkg-dev time \
+           knxd knxd-tools
 # The API reference (make docs).
 DOCS_PACKAGES = doxygen
 
-.PHONY: all deps deps-demo deps-docs demo docs test test-host test-armhf test-asan test-fuzz test-valgrind \
+.PHONY: all deps deps-demo deps-docs demo demo-bus docs test test-host test-armhf test-asan test-fuzz test-valgrind \
         build-host build-armhf build-asan build-fuzz build-bench fuzz tsan bench instructions \
         instructions-check instructions-baseline clean \
         test-consumer check-includes format-check package test-packages test-external lint
@@ -79,6 +81,11 @@ docs: deps-docs
 	KNXCONV_VERSION=$$(sed -n 's/^project(KnxValueConverter VERSION \([0-9.]*\).*/\1/p' CMakeLists.txt) \
 	  doxygen docs/Doxyfile
 
+# A KNX daemon on a dummy bus (private socket, nothing on the network), the
+# monitor listening, the example trace replayed into it; all stopped after.
+demo-bus: build-host
+	scripts/demo-bus.sh build/host/Tools/knxconv/knxconv
+
 test-host: build-host
 	cd build/host && ctest --output-on-failure -j$(JOBS)
 
@@ -94,6 +101,7 @@ test-fuzz: build-fuzz
 
 test-valgrind: build-host
 	scripts/valgrind-trace.sh build/host/Tools/knxconv/knxconv examples/telegrams.csv
+	scripts/valgrind-bus.sh build/host/Tools/knxconv/knxconv
 
 # The installed package as a server developer uses it (CMake and pkg-config).
 test-consumer: build-host

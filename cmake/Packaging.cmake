@@ -83,7 +83,12 @@ else()
   knxconv_debian_package(RUNTIME ${_runtime} libs BINARY "libknxvalueconverter-platform ${_exact}")
 endif()
 knxconv_debian_package(DEV libknxvalueconverter-dev libdevel FILES "${_runtime} ${_exact}" libhowardhinnant-date-dev)
-knxconv_debian_package(TOOL knxconv utils BINARY "${_runtime} ${_exact}")
+if(TARGET KnxconvBus)
+  # The bus commands link the KNX daemon's client library (GPL-2.0-or-later).
+  knxconv_debian_package(TOOL knxconv utils BINARY "${_runtime} ${_exact}" knxd-tools)
+else()
+  knxconv_debian_package(TOOL knxconv utils BINARY "${_runtime} ${_exact}")
+endif()
 knxconv_debian_package(PLATFORM libknxvalueconverter-platform libs BINARY)
 
 # Each package carries the licence as /usr/share/doc/<package>/copyright,
@@ -101,10 +106,28 @@ Copyright: 2026 The KnxValueConverter developers
 License: Expat
  ${_license}
 ")
+# knxconv with the bus commands links knxd's GPL client library: its
+# copyright file says so in the header paragraph.
+set(_tool_copyright ${_copyright})
+if(TARGET KnxconvBus)
+  file(READ ${PROJECT_SOURCE_DIR}/Tools/knxconv/copyright _gpl_note)
+  string(REGEX REPLACE "\n+$" "" _gpl_note "${_gpl_note}")
+  string(REGEX REPLACE "\n\n" "\n.\n" _gpl_note "${_gpl_note}")
+  string(REGEX REPLACE "\n" "\n " _gpl_note "${_gpl_note}")
+  set(_tool_copyright ${PROJECT_BINARY_DIR}/copyright-knxconv)
+  file(READ ${_copyright} _expat)
+  string(REPLACE "Upstream-Name: KnxValueConverter\n" "Upstream-Name: KnxValueConverter\nComment: ${_gpl_note}\n" _expat
+                 "${_expat}")
+  file(WRITE ${_tool_copyright} "${_expat}")
+endif()
 foreach(_component IN LISTS CPACK_COMPONENTS_ALL)
   string(TOUPPER ${_component} _upper)
-  install(FILES ${_copyright} DESTINATION ${CMAKE_INSTALL_DATAROOTDIR}/doc/${CPACK_DEBIAN_${_upper}_PACKAGE_NAME}
-          COMPONENT ${_component})
+  set(_file ${_copyright})
+  if(_component STREQUAL "tool")
+    set(_file ${_tool_copyright})
+  endif()
+  install(FILES ${_file} DESTINATION ${CMAKE_INSTALL_DATAROOTDIR}/doc/${CPACK_DEBIAN_${_upper}_PACKAGE_NAME}
+          RENAME copyright COMPONENT ${_component})
 endforeach()
 set(CPACK_RESOURCE_FILE_LICENSE ${PROJECT_SOURCE_DIR}/LICENSE)
 
@@ -117,6 +140,16 @@ set(CPACK_COMPONENT_DEV_DESCRIPTION "KNX value converter library (development fi
 set(CPACK_COMPONENT_TOOL_DESCRIPTION "KNX value converter on the command line
  Encodes and decodes KNX group values, lists the DPT table and decodes
  traces of telegrams.")
+if(TARGET KnxconvBus)
+  set(CPACK_COMPONENT_TOOL_DESCRIPTION "${CPACK_COMPONENT_TOOL_DESCRIPTION}
+ .
+ Monitors, writes, reads and replays group telegrams on a real KNX bus
+ through the KNX daemon knxd, naming group addresses from the engineering
+ tool's XML and CSV exports. For this it links knxd's client library
+ libeibclient, which is GPL-2.0-or-later, so knxconv as packaged here is
+ GPL-2.0-or-later (see /usr/share/doc/knxconv/copyright); the converter
+ library never links it.")
+endif()
 set(CPACK_COMPONENT_PLATFORM_DESCRIPTION "Platform library substitutes for the KNX value converter
  The base platform (generic value, date/time value, logger) and the KNX
  stack interface (group value) that the converter library is built

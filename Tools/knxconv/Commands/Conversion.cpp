@@ -6,6 +6,8 @@
 #include "LogForwarder.h"
 #include "NumberDisplay.h"
 #include "PayloadSize.h"
+#include "UsageError.h"
+#include "ValueText.h"
 
 namespace Knxconv {
 
@@ -46,7 +48,16 @@ void Decode(const Nelmo::KnxValueConverter& converter, const std::string& payloa
     result.error = std::move(*error);
     return;
   }
-  const KnxStack::GroupValue groupValue(data, GroupValueBits(*result.dpt, bits, data));
+  ConvertGroupValue(converter, KnxStack::GroupValue(data, GroupValueBits(*result.dpt, bits, data)), result);
+}
+
+KnxStack::GroupValue PayloadGroupValue(const KNXDPT& dpt, const std::string& payload, int bits) {
+  const KnxStack::BinaryData data = ParseHex(payload);
+  return KnxStack::GroupValue(data, GroupValueBits(dpt, bits, data));
+}
+
+void ConvertGroupValue(const Nelmo::KnxValueConverter& converter, const KnxStack::GroupValue& groupValue,
+                       TraceResult& result) {
   result.converted = converter.FromKnxValue(*result.dpt, groupValue, result.value);
   if (result.converted) {
     const Nelmo::DptValueEntry& entry = QuietEntry(converter, *result.dpt);
@@ -55,12 +66,43 @@ void Decode(const Nelmo::KnxValueConverter& converter, const std::string& payloa
   }
 }
 
+ULOVALUE ValueToSend(const Nelmo::KnxValueConverter& converter, const KNXDPT& dpt, const Arguments& arguments) {
+  UloValueType type = IVT_ANY;
+  if (const std::optional<std::string> typeName = arguments.Value("--type")) {
+    type = ParseValueType(*typeName);
+  } else if (dpt.mainNumber == 0) {
+    throw UsageError("without a DPT, --type must say what VALUE is");
+  } else {
+    type = QuietEntry(converter, dpt).valueType;
+  }
+  if (KindOf(type) == ValueKind::NoValue) {
+    return ULOVALUE(type);
+  }
+  const std::optional<std::string> value = arguments.Positional("VALUE");
+  if (!value) {
+    throw UsageError("VALUE is missing");
+  }
+  return ParseValue(type, *value, arguments.Flag("--summer-time"));
+}
+
 std::optional<std::string> SendError(const Nelmo::KnxValueConverter& converter, const KNXDPT& dpt,
                                      const ULOVALUE& value) {
   if (auto error = CalendarError(value)) {
     return error;
   }
   return YearWindowError(dpt, QuietEntry(converter, dpt).GetConverter(), value);
+}
+
+Encoded EncodeValue(const Nelmo::KnxValueConverter& converter, KNXDPT& dpt, const Arguments& arguments,
+                    OutputContext& context) {
+  Encoded encoded;
+  const ULOVALUE value = ValueToSend(converter, dpt, arguments);
+  if (const std::optional<std::string> error = SendError(converter, dpt, value)) {
+    encoded.status = context.Fail(ExitRefused, *error);
+  } else if (!converter.ToKnxValue(dpt, value, encoded.groupValue)) {
+    encoded.status = context.Refused();
+  }
+  return encoded;
 }
 
 }  // namespace Knxconv

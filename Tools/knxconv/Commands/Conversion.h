@@ -3,8 +3,10 @@
 #include <optional>
 #include <string>
 
+#include "Arguments.h"
 #include "KnxValueConverterApi.h"
 #include "Output.h"
+#include "OutputContext.h"
 
 namespace Knxconv {
 
@@ -19,9 +21,31 @@ KNXDPT DptWithBits(const std::string& text, int bits);
 // reason is result.error. Throws InputError for a payload that is not hex.
 void Decode(const Nelmo::KnxValueConverter& converter, const std::string& payload, int bits, TraceResult& result);
 
+// The group value of hex payload as Decode reads it. Throws InputError.
+KnxStack::GroupValue PayloadGroupValue(const KNXDPT& dpt, const std::string& payload, int bits);
+// What Decode makes of a group value, for result.dpt.
+void ConvertGroupValue(const Nelmo::KnxValueConverter& converter, const KnxStack::GroupValue& groupValue,
+                       TraceResult& result);
+
+// VALUE (and --type, --summer-time) as the value to send for dpt: read as
+// the type that --type names, else as the type of the DPT's row. A DPT
+// without a row gets the empty value, which the library then refuses with
+// its own message. Throws UsageError and InputError.
+ULOVALUE ValueToSend(const Nelmo::KnxValueConverter& converter, const KNXDPT& dpt, const Arguments& arguments);
+
 // Why the value read for dpt is not sent, or nullopt: the converters send
 // impossible dates and times as they are given.
 std::optional<std::string> SendError(const Nelmo::KnxValueConverter& converter, const KNXDPT& dpt,
                                      const ULOVALUE& value);
+
+// What encode makes of VALUE for dpt (completed as the library completes
+// it): the group value, or the exit status of its refusal, already told
+// through context.
+struct Encoded {
+  KnxStack::GroupValue groupValue;
+  int status = ExitSuccess;
+};
+Encoded EncodeValue(const Nelmo::KnxValueConverter& converter, KNXDPT& dpt, const Arguments& arguments,
+                    OutputContext& context);
 
 }  // namespace Knxconv

@@ -14,17 +14,6 @@ namespace Knxconv {
 namespace {
 
 constexpr const char* NoRange = "-";
-constexpr std::size_t AddressWidth = 9;
-constexpr std::size_t DptWidth = 8;
-constexpr std::size_t TypeWidth = 13;
-
-std::string Padded(std::string text, std::size_t width) {
-  if (text.size() < width) {
-    text.append(width - text.size(), ' ');
-  }
-  return text;
-}
-
 std::string TraceDpt(const TraceResult& result) {
   return result.dpt ? FormatDpt(*result.dpt) : result.telegram.dpt;
 }
@@ -40,6 +29,13 @@ std::vector<std::string> RowColumns(const TableRow& row) {
 }
 
 }  // namespace
+
+std::string Padded(std::string text, std::size_t width) {
+  if (text.size() < width) {
+    text.append(width - text.size(), ' ');
+  }
+  return text;
+}
 
 std::string JsonLine(const Json& json) {
   return EscapeJsonControls(json.dump(-1, ' ', false, Json::error_handler_t::replace));
