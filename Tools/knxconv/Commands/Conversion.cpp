@@ -1,5 +1,6 @@
 #include "Conversion.h"
 
+#include "CatalogueInput.h"
 #include "DptText.h"
 #include "HexText.h"
 #include "LogForwarder.h"
@@ -38,7 +39,8 @@ KNXDPT DptWithBits(const std::string& text, int bits) {
 }
 
 void Decode(const Nelmo::KnxValueConverter& converter, const std::string& payload, int bits, TraceResult& result) {
-  const KnxStack::BinaryData data = ParseHex(payload);
+  const KnxStack::BinaryData data = ParseHex(NormaliseHex(payload));
+  result.bytes.assign(data.GetData(), data.GetData() + data.GetLength());
   const KnxStack::GroupValue groupValue(data, GroupValueBits(*result.dpt, bits, data));
   result.converted = converter.FromKnxValue(*result.dpt, groupValue, result.value);
   if (result.converted) {

@@ -22,12 +22,13 @@ std::string JsonLine(const Json& json);
 Json ValueJson(const ULOVALUE& value);
 
 Json EncodeJson(const KNXDPT& dpt, const KnxStack::GroupValue& groupValue);
-Json DecodeJson(const KNXDPT& dpt, const ULOVALUE& value, UloDP::UloValueSubType subType);
 
 // One row of the DPT table as the tool shows it.
 struct TableRow {
   KNXDPT dpt;
   std::string label;
+  std::string name;  // of the catalogue's sub-type; empty when none
+  std::string unit;
   UloValueType valueType = IVT_ANY;
   UloDP::UloValueSubType subType = UloDP::IVST_NONE;
   std::string converter;
@@ -35,8 +36,12 @@ struct TableRow {
 };
 
 TableRow DescribeRow(const Nelmo::DptValueEntry& entry);
-// The rows as aligned columns, one line each: DPT, label, bits, value type,
-// subtype, converter, range ("-" for none).
+// Lines of columns, each padded to its widest cell (in characters, not
+// bytes) and two blanks apart.
+std::string AlignColumns(const std::vector<std::vector<std::string>>& lines);
+
+// The rows as aligned columns, one line each: DPT, label, name, unit, bits,
+// value type, subtype, converter, range ("-" for none).
 std::string TableText(const std::vector<TableRow>& rows);
 Json TableJson(const std::vector<TableRow>& rows);
 
@@ -48,10 +53,17 @@ struct TraceResult {
   bool converted = false;
   ULOVALUE value;
   UloDP::UloValueSubType subType = UloDP::IVST_NONE;
+  // The payload's bytes, once read.
+  std::vector<unsigned char> bytes;
   std::string error;
 };
 
-// "time  source -> destination  dpt  type  value", or "... error: why".
+// A decoded value: dpt, type, subtype, value, then the display's members.
+Json DecodeJson(const TraceResult& result);
+// The value as users read it: unit, value names, weekday, flags, fields.
+std::string DecodeText(const TraceResult& result);
+
+// "time  source -> destination  dpt  payload  value", or "... error: why".
 std::string TraceText(const TraceResult& result);
 Json TraceJson(const TraceResult& result);
 
