@@ -10,6 +10,11 @@ int main(int argc, char** argv) {
   // fails the stream at once with its errno (stdio would report it later,
   // without one).
   std::ios::sync_with_stdio(false);
+  // The output context flushes standard output itself, before each message
+  // and where a command asks for it; a flush by a tied stream would hide a
+  // failed write's errno.
+  std::cin.tie(nullptr);
+  std::cerr.tie(nullptr);
   try {
     return Knxconv::RunCommandLine(argc, argv, std::cin, std::cout, std::cerr);
   } catch (const std::exception& error) {

@@ -35,20 +35,6 @@ int Answer(const CommandRegistry& registry, const FirstLook& look, OutputContext
   return ExitSuccess;
 }
 
-int Run(const CommandRegistry& registry, const std::vector<std::string>& args, OutputContext& context,
-        const Command*& command) {
-  ParsedCommandLine parsed;
-  try {
-    ParseCommandLine(registry, args, parsed);
-  } catch (const UsageError&) {
-    command = parsed.command;
-    throw;
-  }
-  command = parsed.command;
-  context.ForwardLog(parsed.globals.logLevel);
-  return command->run(parsed.arguments, context);
-}
-
 }  // namespace
 
 int RunCommandLine(const CommandRegistry& registry, int argc, const char* const* argv, std::istream& in,
@@ -59,12 +45,14 @@ int RunCommandLine(const CommandRegistry& registry, int argc, const char* const*
   if (look.globals.help || look.globals.version) {
     return context.Finish(Answer(registry, look, context));
   }
-  const Command* command = look.command;
+  ParsedCommandLine parsed;
   int status = ExitSuccess;
   try {
-    status = Run(registry, args, context, command);
+    ParseCommandLine(registry, args, parsed);
+    context.ForwardLog(parsed.globals.logLevel);
+    status = parsed.command->run(parsed.arguments, context);
   } catch (const UsageError& error) {
-    status = ReportUsageError(context, error, command);
+    status = ReportUsageError(context, error, parsed.command != nullptr ? parsed.command : look.command);
   } catch (const InputError& error) {
     status = context.Fail(ExitUsage, error.what());
   }

@@ -45,6 +45,8 @@ int RunTrace(const Arguments& arguments, OutputContext& context) {
       throw InputError("cannot read the trace " + name);
     }
   }
+  // A trace read from standard input may be a live one.
+  context.FlushEachLine(name == StandardInput);
   TraceReader reader(name == StandardInput ? context.In() : file);
   const Nelmo::KnxValueConverter converter;
   bool allConverted = true;

@@ -10,7 +10,7 @@
 namespace Knxconv {
 
 // Routes the library's log while the tool runs: messages from the chosen
-// level up go to the error stream, one line each; error messages are also
+// level up go to the error stream, one escaped line each; error messages are also
 // kept, so that a trace line can say why its telegram did not convert.
 class LogForwarder {
  public:

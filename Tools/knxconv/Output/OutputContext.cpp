@@ -28,6 +28,9 @@ void OutputContext::PrintLine(std::string_view text) {
   errno = 0;
   m_out << EscapeText(text) << '\n';
   CheckOutput();
+  if (m_flushEachLine) {
+    FlushOutput();
+  }
 }
 
 void OutputContext::PrintJson(const Json& json) {
@@ -37,6 +40,9 @@ void OutputContext::PrintJson(const Json& json) {
   errno = 0;
   m_out << JsonLine(json) << '\n';
   CheckOutput();
+  if (m_flushEachLine) {
+    FlushOutput();
+  }
 }
 
 void OutputContext::PrintText(std::string_view text) {

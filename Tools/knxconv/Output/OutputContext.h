@@ -47,6 +47,10 @@ class OutputContext {
   // Prints text or JSON as the mode asks.
   void PrintResult(std::string_view text, const Json& json);
   bool OutputFailed() const { return m_writeError != 0; }
+  // For output that someone watches while it grows (a live bus, a trace
+  // read from a pipe): each line is written at once, not when the buffer is
+  // full.
+  void FlushEachLine(bool flush) { m_flushEachLine = flush; }
 
   // "knxconv: <message>" on standard error, escaped.
   void Message(std::string_view message);
@@ -73,6 +77,7 @@ class OutputContext {
   std::ostream& m_err;
   std::unique_ptr<LogForwarder> m_log;
   int m_writeError = 0;
+  bool m_flushEachLine = false;
 };
 
 }  // namespace Knxconv
