@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <optional>
 
+#include "CountedAllocations.h"
 #include "DptCatalogue.h"
 
 namespace {
@@ -99,6 +100,15 @@ TEST(DptValueName, EveryNamedValueLiesInTheRangeAndReadsBack) {
       ASSERT_TRUE(value.has_value()) << entry.name << " " << named.name;
       EXPECT_STREQ(DptCatalogue::ValueName(entry, *value), named.name) << entry.name;
     }
+  }
+}
+
+TEST(DptValueName, AllocatesNothing) {
+  for (const ValueOfName& row : ValuesOfNames) {
+    const DptSubtype* entry = DptCatalogue::Find(row.mainNumber, row.subNumber);
+    ASSERT_NE(entry, nullptr);
+    EXPECT_EQ(CountedAllocations::During([entry, &row] { (void)DptCatalogue::ValueOfName(*entry, row.name); }), 0);
+    EXPECT_EQ(CountedAllocations::During([entry] { (void)DptCatalogue::ValueName(*entry, 1); }), 0);
   }
 }
 
