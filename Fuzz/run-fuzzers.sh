@@ -6,7 +6,8 @@ build=${1:?usage: run-fuzzers.sh BUILD_DIR [SECONDS]}
 seconds=${2:-${FUZZ_SECONDS:-60}}
 here=$(cd "$(dirname "$0")" && pwd)
 status=0
-for target in FromKnxValueFuzz ToKnxValueFuzz GroupValueFuzz; do
+for target in FromKnxValueFuzz ToKnxValueFuzz GroupValueFuzz \
+    KnxconvValueTextFuzz KnxconvDptTextFuzz KnxconvHexTextFuzz KnxconvTraceReaderFuzz; do
   work="$build/Fuzz/work/$target"
   artifacts="$build/Fuzz/artifacts/$target/"
   mkdir -p "$work" "$artifacts"

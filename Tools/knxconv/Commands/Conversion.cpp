@@ -1,9 +1,12 @@
 #include "Conversion.h"
 
+#include "CalendarCheck.h"
 #include "CatalogueInput.h"
 #include "DptText.h"
 #include "HexText.h"
 #include "LogForwarder.h"
+#include "NumberDisplay.h"
+#include "PayloadSize.h"
 
 namespace Knxconv {
 
@@ -41,11 +44,24 @@ KNXDPT DptWithBits(const std::string& text, int bits) {
 void Decode(const Nelmo::KnxValueConverter& converter, const std::string& payload, int bits, TraceResult& result) {
   const KnxStack::BinaryData data = ParseHex(NormaliseHex(payload));
   result.bytes.assign(data.GetData(), data.GetData() + data.GetLength());
+  if (auto error = PayloadSizeError(*result.dpt, static_cast<unsigned int>(bits), data)) {
+    result.error = std::move(*error);
+    return;
+  }
   const KnxStack::GroupValue groupValue(data, GroupValueBits(*result.dpt, bits, data));
   result.converted = converter.FromKnxValue(*result.dpt, groupValue, result.value);
   if (result.converted) {
     result.subType = QuietEntry(converter, *result.dpt).subType;
+    result.text = DisplayText(converter, *result.dpt, result.value, groupValue);
   }
+}
+
+std::optional<std::string> SendError(const Nelmo::KnxValueConverter& converter, const KNXDPT& dpt,
+                                     const ULOVALUE& value) {
+  if (auto error = CalendarError(value)) {
+    return error;
+  }
+  return YearWindowError(dpt, QuietEntry(converter, dpt).GetConverter(), value);
 }
 
 }  // namespace Knxconv

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include "KnxValueConverterApi.h"
@@ -14,7 +15,14 @@ const Nelmo::DptValueEntry& QuietEntry(const Nelmo::KnxValueConverter& converter
 KNXDPT DptWithBits(const std::string& text, int bits);
 
 // Decodes hex payload as result.dpt into result; bits 0 takes the DPT's
-// size. Throws InputError for a payload that is not hex.
+// size. A payload that cannot hold the DPT's value is not converted: the
+// reason is the result's error. Throws InputError for a payload that is not
+// hex.
 void Decode(const Nelmo::KnxValueConverter& converter, const std::string& payload, int bits, TraceResult& result);
+
+// Why the value read for dpt is not sent, or nullopt: the converters send
+// impossible dates and times as they are given.
+std::optional<std::string> SendError(const Nelmo::KnxValueConverter& converter, const KNXDPT& dpt,
+                                     const ULOVALUE& value);
 
 }  // namespace Knxconv

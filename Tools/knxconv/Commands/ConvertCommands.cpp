@@ -39,6 +39,9 @@ int RunEncode(const Arguments& arguments, OutputContext& context) {
   KNXDPT dpt = DptWithBits(*arguments.Positional("DPT"), arguments.Integer("--bits", 1, MaximumBits, 0));
   const Nelmo::KnxValueConverter converter;
   const ULOVALUE value = ValueToSend(converter, dpt, arguments);
+  if (const auto error = SendError(converter, dpt, value)) {
+    return context.Fail(ExitRefused, *error);
+  }
   KnxStack::GroupValue groupValue;
   if (!converter.ToKnxValue(dpt, value, groupValue)) {
     return context.Refused();
@@ -56,6 +59,9 @@ int RunDecode(const Arguments& arguments, OutputContext& context) {
   result.value = ULOVALUE(typeName ? ParseValueType(*typeName) : IVT_ANY);
   const Nelmo::KnxValueConverter converter;
   Decode(converter, *arguments.Positional("HEX"), bits, result);
+  if (!result.error.empty()) {
+    return context.Fail(ExitRefused, result.error);
+  }
   if (!result.converted) {
     return context.Refused();
   }

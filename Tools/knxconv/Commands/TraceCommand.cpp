@@ -1,3 +1,6 @@
+#include <cerrno>
+#include <cstring>
+#include <filesystem>
 #include <fstream>
 
 #include "Conversion.h"
@@ -24,7 +27,7 @@ TraceResult DecodeTelegram(const Nelmo::KnxValueConverter& converter, OutputCont
     result.dpt = ParseDpt(telegram.dpt);
     context.TakeLogErrors();
     Decode(converter, telegram.payload, 0, result);
-    if (!result.converted) {
+    if (!result.converted && result.error.empty()) {
       result.error = context.TakeLogErrors();
     }
   } catch (const InputError& error) {
@@ -36,18 +39,31 @@ TraceResult DecodeTelegram(const Nelmo::KnxValueConverter& converter, OutputCont
   return result;
 }
 
+// Opens the trace file; InputError says in the system's words why not.
+void OpenTrace(const std::string& path, std::ifstream& file) {
+  errno = 0;
+  file.open(path, std::ios::binary);
+  int error = errno;
+  std::error_code ignored;
+  // A directory opens like a file and fails only when read.
+  if (file && std::filesystem::is_directory(path, ignored)) {
+    error = EISDIR;
+  } else if (file) {
+    return;
+  }
+  throw InputError("cannot read the trace '" + path + "': " + std::strerror(error != 0 ? error : EIO));
+}
+
 int RunTrace(const Arguments& arguments, OutputContext& context) {
   const std::string name = arguments.Positional("FILE").value_or(StandardInput);
   std::ifstream file;
   if (name != StandardInput) {
-    file.open(name, std::ios::binary);
-    if (!file) {
-      throw InputError("cannot read the trace " + name);
-    }
+    OpenTrace(name, file);
   }
   // A trace read from standard input may be a live one.
   context.FlushEachLine(name == StandardInput);
-  TraceReader reader(name == StandardInput ? context.In() : file);
+  std::istream& source = name == StandardInput ? context.In() : file;
+  TraceReader reader(source);
   const Nelmo::KnxValueConverter converter;
   bool allConverted = true;
   Telegram telegram;
@@ -56,6 +72,9 @@ int RunTrace(const Arguments& arguments, OutputContext& context) {
     const TraceResult result = DecodeTelegram(converter, context, telegram);
     allConverted = allConverted && result.converted;
     context.PrintResult(TraceText(result), TraceJson(result));
+  }
+  if (source.bad()) {
+    throw InputError("cannot read the trace '" + name + "' to its end");
   }
   return allConverted ? ExitSuccess : ExitRefused;
 }

@@ -47,7 +47,8 @@ Json TextOrNull(const std::string& text) {
 }
 
 ValueDisplay Display(const TraceResult& result) {
-  return DisplayValue(*result.dpt, result.value, result.bytes);
+  return DisplayValue(*result.dpt, result.value, result.bytes,
+                      result.text.empty() ? result.value.ToString() : result.text);
 }
 
 std::string TraceDpt(const TraceResult& result) {

@@ -52,6 +52,8 @@ struct TraceResult {
   std::optional<KNXDPT> dpt;
   bool converted = false;
   ULOVALUE value;
+  // The value as the text output shows it.
+  std::string text;
   UloDP::UloValueSubType subType = UloDP::IVST_NONE;
   // The payload's bytes, once read.
   std::vector<unsigned char> bytes;

@@ -144,9 +144,10 @@ void ShowNumber(const KNXDPT& dpt, const ULOVALUE& value, ValueDisplay& display)
 
 }  // namespace
 
-ValueDisplay DisplayValue(const KNXDPT& dpt, const ULOVALUE& value, const std::vector<unsigned char>& bytes) {
+ValueDisplay DisplayValue(const KNXDPT& dpt, const ULOVALUE& value, const std::vector<unsigned char>& bytes,
+                          const std::string& valueText) {
   const Nelmo::DptSubtype* subtype = SubtypeOf(dpt);
-  ValueDisplay display{value.ToString(), Json::object()};
+  ValueDisplay display{valueText, Json::object()};
   display.json["name"] = subtype != nullptr ? Json(subtype->name) : Json(nullptr);
   display.json["unit"] = subtype != nullptr && *subtype->unit != '\0' ? Json(subtype->unit) : Json(nullptr);
   if (KindOf(value.GetType()) == ValueKind::NoValue) {

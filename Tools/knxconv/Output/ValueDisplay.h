@@ -17,8 +17,9 @@ struct ValueDisplay {
   Json json;
 };
 
-// value is what the library decoded from bytes as dpt; structured forms read
-// their fields from those bytes.
-ValueDisplay DisplayValue(const KNXDPT& dpt, const ULOVALUE& value, const std::vector<unsigned char>& bytes);
+// value is what the library decoded from bytes as dpt, valueText its own
+// text; structured forms read their fields from those bytes.
+ValueDisplay DisplayValue(const KNXDPT& dpt, const ULOVALUE& value, const std::vector<unsigned char>& bytes,
+                          const std::string& valueText);
 
 }  // namespace Knxconv

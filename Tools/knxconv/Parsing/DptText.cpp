@@ -25,6 +25,11 @@ std::string SuggestionText(const std::string& suggestion) {
   return std::string(subtype->name) + " (" + FormatDpt(dpt) + ")";
 }
 
+// "0", and "0.000" as FormatDpt writes it back.
+bool IsNoDpt(std::string_view text) {
+  return text == "0" || text == "0.000";
+}
+
 std::string UnknownDptMessage(std::string_view text) {
   const std::vector<std::string> suggestions = Nelmo::DptCatalogue::Suggest(text, 1);
   const std::string start = "unknown DPT '" + std::string(text) + "'";
@@ -38,7 +43,7 @@ std::string UnknownDptMessage(std::string_view text) {
 
 KNXDPT ParseDpt(std::string_view text) {
   KNXDPT dpt;
-  if (Trim(text) == "0") {
+  if (IsNoDpt(Trim(text))) {
     return dpt;
   }
   const std::optional<Nelmo::DptId> id = Nelmo::DptCatalogue::Parse(text);

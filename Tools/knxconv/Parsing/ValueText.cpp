@@ -164,10 +164,24 @@ ULOVALUE ReadBoolean(UloValueType type, std::string_view text) {
   return value;
 }
 
+// Infinities are numbers to send too: the converters clamp them into range.
+std::optional<double> ReadInfinity(std::string_view text) {
+  const bool minus = !text.empty() && text.front() == '-';
+  const bool sign = minus || (!text.empty() && text.front() == '+');
+  const std::string_view name = sign ? text.substr(1) : text;
+  if (!EqualsIgnoringCase(name, "inf") && !EqualsIgnoringCase(name, "infinity")) {
+    return std::nullopt;
+  }
+  return minus ? -std::numeric_limits<double>::infinity() : std::numeric_limits<double>::infinity();
+}
+
 ULOVALUE ReadNumber(UloValueType type, std::string_view text) {
-  const std::optional<double> number = ParseDecimal(text);
+  std::optional<double> number = ParseDecimal(text);
   if (!number) {
-    Refuse(type, text, "a decimal number");
+    number = ReadInfinity(text);
+  }
+  if (!number) {
+    Refuse(type, text, "a decimal number, inf or -inf");
   }
   ULOVALUE value(type);
   value.SetDouble(*number);

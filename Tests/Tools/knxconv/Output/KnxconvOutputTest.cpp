@@ -129,13 +129,15 @@ TraceResult Result(const char* dptText, std::optional<KNXDPT> dpt) {
 TEST(Output, TraceLineOfAConvertedTelegram) {
   TraceResult result = Result("9.1", Dpt(9, 1));
   result.converted = true;
-  result.value = ULOVALUE::Double(21.5);
+  result.value = ULOVALUE::Double(21.499999999999996);
+  result.text = "21.5";
   result.subType = UloDP::IVST_TEMPERATURE;
   result.bytes = {0x0C, 0x33};
+  // The text shows the value as the command wrote it, JSON the exact double.
   EXPECT_EQ(TraceText(result), "07:00:00.000  1.1.10    -> 1/0/1      9.001    0C 33                   21.5 °C");
   EXPECT_EQ(JsonLine(TraceJson(result)),
             R"({"line":7,"time":"07:00:00.000","source":"1.1.10","destination":"1/0/1","dpt":"9.001",)"
-            R"("payload":"0C 33","type":"IVT_DOUBLE","subtype":"IVST_TEMPERATURE","value":21.5,)"
+            R"("payload":"0C 33","type":"IVT_DOUBLE","subtype":"IVST_TEMPERATURE","value":21.499999999999996,)"
             R"("name":"DPT_Value_Temp","unit":"°C"})");
 }
 

@@ -87,7 +87,8 @@ class ValueDisplayForms : public ::testing::TestWithParam<DisplayCase> {};
 
 TEST_P(ValueDisplayForms, ShowWhatTheBusSaid) {
   const DisplayCase& row = GetParam();
-  const ValueDisplay display = DisplayValue(Dpt(row.mainNumber, row.subNumber), row.value, row.bytes);
+  const ValueDisplay display =
+      DisplayValue(Dpt(row.mainNumber, row.subNumber), row.value, row.bytes, row.value.ToString());
   EXPECT_EQ(display.text, row.text);
   EXPECT_EQ(JsonLine(display.json), row.json);
 }
