@@ -74,7 +74,8 @@ int RunDecode(const Arguments& arguments, OutputContext& context) {
 void AddConvertCommands(CommandRegistry& registry) {
   registry.Add({"encode",
                 "Convert a value to the bytes of a KNX group value",
-                {{"DPT", DptHelp, true}, {"VALUE",
+                {{"DPT", DptHelp, true},
+                 {"VALUE",
                   "The value, read as the DPT's value type or as --type says: on/off, a value name, 21.5 °C, "
                   "2024-03-04T07:30:15",
                   false}},

@@ -70,8 +70,8 @@ int RunDpts(const Arguments& /*arguments*/, OutputContext& context) {
   Json json = Json::array();
   for (const Nelmo::DptSubtype& subtype : Nelmo::DptCatalogue::All()) {
     const std::string row = RowText(converter, subtype);
-    lines.push_back({FormatDpt(DptOf(subtype)), subtype.name, *subtype.unit != '\0' ? subtype.unit : "-",
-                     BitsText(subtype), row});
+    lines.push_back(
+        {FormatDpt(DptOf(subtype)), subtype.name, *subtype.unit != '\0' ? subtype.unit : "-", BitsText(subtype), row});
     json.push_back(SubtypeJson(subtype, row));
   }
   if (context.IsJson()) {
@@ -167,8 +167,8 @@ int RunDpt(const Arguments& arguments, OutputContext& context) {
 }  // namespace
 
 void AddDptCommands(CommandRegistry& registry) {
-  registry.Add({"dpts", "List the DPT sub-types the tool knows by name, with unit, bits and table row", {}, {},
-                RunDpts});
+  registry.Add(
+      {"dpts", "List the DPT sub-types the tool knows by name, with unit, bits and table row", {}, {}, RunDpts});
   registry.Add({"dpt",
                 "Show one DPT sub-type: name, description, unit, bits, range, value names, row, an example",
                 {{"DPT", "9.001, 9.1, DPST-9-1, DPT_Value_Temp, ...", true}},

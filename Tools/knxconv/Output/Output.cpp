@@ -4,11 +4,11 @@
 #include <cmath>
 #include <sstream>
 
+#include "CatalogueInput.h"
 #include "ConverterInfo.h"
 #include "DptText.h"
 #include "TextEscape.h"
 #include "ValueDisplay.h"
-#include "CatalogueInput.h"
 #include "ValueText.h"
 
 namespace Knxconv {

@@ -96,22 +96,22 @@ const std::vector<TableRow> Rows = {
 };
 
 TEST(Output, TableTextAlignsTheColumns) {
-  EXPECT_EQ(
-      TableText(Rows),
-      "1.000    1.x    -               -   1   IVT_BOOL    IVST_NONE  KnxConverter1Bit                  -\n"
-      "232.000  232.x  -               -   16  IVT_UINT32  IVST_NONE  KnxConverterInteger24BitUnsigned  "
-      "LongIntegerRange(0, 1, 0, 1)\n"
-      "9.001    9.001  DPT_Value_Temp  °C  16  IVT_DOUBLE  IVST_NONE  KnxConverterFloat16BitFloat       -\n");
+  EXPECT_EQ(TableText(Rows),
+            "1.000    1.x    -               -   1   IVT_BOOL    IVST_NONE  KnxConverter1Bit                  -\n"
+            "232.000  232.x  -               -   16  IVT_UINT32  IVST_NONE  KnxConverterInteger24BitUnsigned  "
+            "LongIntegerRange(0, 1, 0, 1)\n"
+            "9.001    9.001  DPT_Value_Temp  °C  16  IVT_DOUBLE  IVST_NONE  KnxConverterFloat16BitFloat       -\n");
 }
 
 TEST(Output, TableJsonIsAnArrayOfRows) {
-  EXPECT_EQ(JsonLine(TableJson(Rows)),
-            R"([{"dpt":"1.000","label":"1.x","name":null,"unit":null,"bits":1,"type":"IVT_BOOL",)"
-            R"("subtype":"IVST_NONE","converter":"KnxConverter1Bit","range":null},)"
-            R"({"dpt":"232.000","label":"232.x","name":null,"unit":null,"bits":16,"type":"IVT_UINT32",)"
-            R"json("subtype":"IVST_NONE","converter":"KnxConverterInteger24BitUnsigned","range":"LongIntegerRange(0, 1, 0, 1)"},)json"
-            R"({"dpt":"9.001","label":"9.001","name":"DPT_Value_Temp","unit":"°C","bits":16,"type":"IVT_DOUBLE",)"
-            R"("subtype":"IVST_NONE","converter":"KnxConverterFloat16BitFloat","range":null}])");
+  EXPECT_EQ(
+      JsonLine(TableJson(Rows)),
+      R"([{"dpt":"1.000","label":"1.x","name":null,"unit":null,"bits":1,"type":"IVT_BOOL",)"
+      R"("subtype":"IVST_NONE","converter":"KnxConverter1Bit","range":null},)"
+      R"({"dpt":"232.000","label":"232.x","name":null,"unit":null,"bits":16,"type":"IVT_UINT32",)"
+      R"json("subtype":"IVST_NONE","converter":"KnxConverterInteger24BitUnsigned","range":"LongIntegerRange(0, 1, 0, 1)"},)json"
+      R"({"dpt":"9.001","label":"9.001","name":"DPT_Value_Temp","unit":"°C","bits":16,"type":"IVT_DOUBLE",)"
+      R"("subtype":"IVST_NONE","converter":"KnxConverterFloat16BitFloat","range":null}])");
 }
 
 TraceResult Result(const char* dptText, std::optional<KNXDPT> dpt) {
@@ -151,7 +151,8 @@ TEST(Output, TraceLineOfAnEmptyValueEndsWithoutBlanks) {
 TEST(Output, TraceLineOfARefusedTelegram) {
   TraceResult result = Result("9.x.1", std::nullopt);
   result.error = "not a DPT";
-  EXPECT_EQ(TraceText(result), "07:00:00.000  1.1.10    -> 1/0/1      9.x.1    0C 33                   error: not a DPT");
+  EXPECT_EQ(TraceText(result),
+            "07:00:00.000  1.1.10    -> 1/0/1      9.x.1    0C 33                   error: not a DPT");
   EXPECT_EQ(JsonLine(TraceJson(result)),
             R"({"line":7,"time":"07:00:00.000","source":"1.1.10","destination":"1/0/1","dpt":"9.x.1",)"
             R"("payload":"0C 33","error":"not a DPT"})");
