@@ -7,9 +7,10 @@ FUZZ_SECONDS_IN_TEST ?= 10
 CMAKE_FLAGS ?=
 PACKAGES := g++ cmake make googletest libgtest-dev libgmock-dev libhowardhinnant-date-dev \
             g++-arm-linux-gnueabihf qemu-user nlohmann-json3-dev \
-            clang libclang-rt-14-dev valgrind libbenchmark-dev clang-format clang-tidy pkgconf dpkg-dev
+            clang libclang-rt-14-dev valgrind libbenchmark-dev clang-format clang-tidy pkgconf dpkg-dev \
+            knxd knxd-tools knxd-dev libpugixml-dev
 
-.PHONY: all deps demo test test-host test-armhf test-asan test-fuzz test-valgrind \
+.PHONY: all deps demo demo-bus test test-host test-armhf test-asan test-fuzz test-valgrind \
         build-host build-armhf build-asan build-fuzz fuzz tsan bench instructions clean \
         test-consumer check-includes format-check package test-packages test-external lint
 
@@ -61,6 +62,11 @@ build-fuzz: deps build/fuzz/CMakeCache.txt
 demo: build-host
 	./build/host/Tools/knxconv/knxconv trace examples/telegrams.csv || true
 
+# A KNX daemon on a dummy bus (private socket, nothing on the network), the
+# monitor listening, the example trace replayed into it; all stopped after.
+demo-bus: build-host
+	scripts/demo-bus.sh build/host/Tools/knxconv/knxconv
+
 test-host: build-host
 	cd build/host && ctest --output-on-failure -j$(JOBS)
 
@@ -76,6 +82,7 @@ test-fuzz: build-fuzz
 
 test-valgrind: build-host
 	scripts/valgrind-trace.sh build/host/Tools/knxconv/knxconv examples/telegrams.csv
+	scripts/valgrind-bus.sh build/host/Tools/knxconv/knxconv
 
 # The installed package as a server developer uses it (CMake and pkg-config).
 test-consumer: build-host

@@ -83,7 +83,12 @@ else()
   knxconv_debian_package(RUNTIME ${_runtime} libs BINARY "libknxvalueconverter-platform ${_exact}")
 endif()
 knxconv_debian_package(DEV libknxvalueconverter-dev libdevel FILES "${_runtime} ${_exact}" libhowardhinnant-date-dev)
-knxconv_debian_package(TOOL knxconv utils BINARY "${_runtime} ${_exact}")
+if(TARGET KnxconvBus)
+  # The bus commands link the KNX daemon's client library (GPL-2.0-or-later).
+  knxconv_debian_package(TOOL knxconv utils BINARY "${_runtime} ${_exact}" knxd-tools)
+else()
+  knxconv_debian_package(TOOL knxconv utils BINARY "${_runtime} ${_exact}")
+endif()
 knxconv_debian_package(PLATFORM libknxvalueconverter-platform libs BINARY)
 
 set(CPACK_COMPONENT_RUNTIME_DESCRIPTION "KNX value converter library
@@ -95,6 +100,16 @@ set(CPACK_COMPONENT_DEV_DESCRIPTION "KNX value converter library (development fi
 set(CPACK_COMPONENT_TOOL_DESCRIPTION "KNX value converter on the command line
  Encodes and decodes KNX group values, lists the DPT table and decodes
  traces of telegrams.")
+if(TARGET KnxconvBus)
+  set(CPACK_COMPONENT_TOOL_DESCRIPTION "${CPACK_COMPONENT_TOOL_DESCRIPTION}
+ .
+ Monitors, writes, reads and replays group telegrams on a real KNX bus
+ through the KNX daemon knxd, naming group addresses from the engineering
+ tool's XML and CSV exports. For this it links knxd's client library
+ libeibclient, which is GPL-2.0-or-later, so knxconv as packaged here is
+ GPL-2.0-or-later (see /usr/share/doc/knxconv/copyright); the converter
+ library never links it.")
+endif()
 set(CPACK_COMPONENT_PLATFORM_DESCRIPTION "Platform library substitutes for the KNX value converter
  The base platform (generic value, date/time value, logger) and the KNX
  stack interface (group value) that the converter library is built

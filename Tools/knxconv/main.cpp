@@ -2,6 +2,10 @@
 #include <iostream>
 
 #include "CommandLine.h"
+#include "StandardCommands.h"
+#ifdef KNXCONV_WITH_BUS
+#include "BusCommands.h"
+#endif
 #include "OutputContext.h"
 #include "TextEscape.h"
 
@@ -16,7 +20,11 @@ int main(int argc, char** argv) {
   std::cin.tie(nullptr);
   std::cerr.tie(nullptr);
   try {
-    return Knxconv::RunCommandLine(argc, argv, std::cin, std::cout, std::cerr);
+    Knxconv::CommandRegistry registry = Knxconv::StandardCommands();
+#ifdef KNXCONV_WITH_BUS
+    Knxconv::AddBusCommands(registry);
+#endif
+    return Knxconv::RunCommandLine(registry, argc, argv, std::cin, std::cout, std::cerr);
   } catch (const std::exception& error) {
     // Nothing the library throws is caught by the commands themselves.
     std::cerr << "knxconv: " << Knxconv::EscapeText(error.what()) << '\n';

@@ -7,6 +7,8 @@
 #include "LogForwarder.h"
 #include "NumberDisplay.h"
 #include "PayloadSize.h"
+#include "UsageError.h"
+#include "ValueText.h"
 
 namespace Knxconv {
 
@@ -43,17 +45,47 @@ KNXDPT DptWithBits(const std::string& text, int bits) {
 
 void Decode(const Nelmo::KnxValueConverter& converter, const std::string& payload, int bits, TraceResult& result) {
   const KnxStack::BinaryData data = ParseHex(NormaliseHex(payload));
-  result.bytes.assign(data.GetData(), data.GetData() + data.GetLength());
   if (auto error = PayloadSizeError(*result.dpt, static_cast<unsigned int>(bits), data)) {
     result.error = std::move(*error);
     return;
   }
-  const KnxStack::GroupValue groupValue(data, GroupValueBits(*result.dpt, bits, data));
+  ConvertGroupValue(converter, KnxStack::GroupValue(data, GroupValueBits(*result.dpt, bits, data)), result);
+}
+
+KnxStack::GroupValue PayloadGroupValue(const KNXDPT& dpt, const std::string& payload, int bits) {
+  const KnxStack::BinaryData data = ParseHex(NormaliseHex(payload));
+  return KnxStack::GroupValue(data, GroupValueBits(dpt, bits, data));
+}
+
+void ConvertGroupValue(const Nelmo::KnxValueConverter& converter, const KnxStack::GroupValue& groupValue,
+                       TraceResult& result) {
+  const KnxStack::BinaryData& data = groupValue.GetRawData();
+  result.bytes.assign(data.GetData(), data.GetData() + data.GetLength());
   result.converted = converter.FromKnxValue(*result.dpt, groupValue, result.value);
   if (result.converted) {
-    result.subType = QuietEntry(converter, *result.dpt).subType;
-    result.text = DisplayText(converter, *result.dpt, result.value, groupValue);
+    const Nelmo::DptValueEntry& entry = QuietEntry(converter, *result.dpt);
+    result.subType = entry.subType;
+    result.text = DisplayText(entry.GetConverter(), *result.dpt, result.value, groupValue);
   }
+}
+
+ULOVALUE ValueToSend(const Nelmo::KnxValueConverter& converter, const KNXDPT& dpt, const Arguments& arguments) {
+  UloValueType type = IVT_ANY;
+  if (const std::optional<std::string> typeName = arguments.Value("--type")) {
+    type = ParseValueType(*typeName);
+  } else if (dpt.mainNumber == 0) {
+    throw UsageError("without a DPT, --type must say what VALUE is");
+  } else {
+    type = QuietEntry(converter, dpt).valueType;
+  }
+  if (KindOf(type) == ValueKind::NoValue) {
+    return ULOVALUE(type);
+  }
+  const std::optional<std::string> value = arguments.Positional("VALUE");
+  if (!value) {
+    throw UsageError("VALUE is missing");
+  }
+  return ParseValue(type, NormaliseValue(dpt, type, *value), arguments.Flag("--summer-time"));
 }
 
 std::optional<std::string> SendError(const Nelmo::KnxValueConverter& converter, const KNXDPT& dpt,

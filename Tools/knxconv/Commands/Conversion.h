@@ -3,6 +3,7 @@
 #include <optional>
 #include <string>
 
+#include "Arguments.h"
 #include "KnxValueConverterApi.h"
 #include "Output.h"
 
@@ -15,10 +16,21 @@ const Nelmo::DptValueEntry& QuietEntry(const Nelmo::KnxValueConverter& converter
 KNXDPT DptWithBits(const std::string& text, int bits);
 
 // Decodes hex payload as result.dpt into result; bits 0 takes the DPT's
-// size. A payload that cannot hold the DPT's value is not converted: the
-// reason is the result's error. Throws InputError for a payload that is not
-// hex.
+// size. A payload that cannot hold the DPT's value is not decoded: its
+// reason is result.error. Throws InputError for a payload that is not hex.
 void Decode(const Nelmo::KnxValueConverter& converter, const std::string& payload, int bits, TraceResult& result);
+
+// The group value of hex payload as Decode reads it. Throws InputError.
+KnxStack::GroupValue PayloadGroupValue(const KNXDPT& dpt, const std::string& payload, int bits);
+// What Decode makes of a group value, for result.dpt.
+void ConvertGroupValue(const Nelmo::KnxValueConverter& converter, const KnxStack::GroupValue& groupValue,
+                       TraceResult& result);
+
+// VALUE (and --type, --summer-time) as the value to send for dpt: read as
+// the type that --type names, else as the type of the DPT's row. A DPT
+// without a row gets the empty value, which the library then refuses with
+// its own message. Throws UsageError and InputError.
+ULOVALUE ValueToSend(const Nelmo::KnxValueConverter& converter, const KNXDPT& dpt, const Arguments& arguments);
 
 // Why the value read for dpt is not sent, or nullopt: the converters send
 // impossible dates and times as they are given.

@@ -13,33 +13,11 @@ constexpr int MaximumBits = 255;
 constexpr const char* DptHelp =
     "9.001, 9.1, 9, 9.x, DPT9.001, DPST-9-1 or DPT_Value_Temp; 0 for none (completed from --bits and the type)";
 
-// VALUE is read as the type that --type names, else as the type of the
-// DPT's row. A DPT without a row gets the empty value, which the library
-// then refuses with its own message.
-ULOVALUE ValueToSend(const Nelmo::KnxValueConverter& converter, const KNXDPT& dpt, const Arguments& arguments) {
-  UloValueType type = IVT_ANY;
-  if (const std::optional<std::string> typeName = arguments.Value("--type")) {
-    type = ParseValueType(*typeName);
-  } else if (dpt.mainNumber == 0) {
-    throw UsageError("without a DPT, --type must say what VALUE is");
-  } else {
-    type = QuietEntry(converter, dpt).valueType;
-  }
-  if (KindOf(type) == ValueKind::NoValue) {
-    return ULOVALUE(type);
-  }
-  const std::optional<std::string> value = arguments.Positional("VALUE");
-  if (!value) {
-    throw UsageError("VALUE is missing");
-  }
-  return ParseValue(type, NormaliseValue(dpt, type, *value), arguments.Flag("--summer-time"));
-}
-
 int RunEncode(const Arguments& arguments, OutputContext& context) {
   KNXDPT dpt = DptWithBits(*arguments.Positional("DPT"), arguments.Integer("--bits", 1, MaximumBits, 0));
   const Nelmo::KnxValueConverter converter;
   const ULOVALUE value = ValueToSend(converter, dpt, arguments);
-  if (const auto error = SendError(converter, dpt, value)) {
+  if (const std::optional<std::string> error = SendError(converter, dpt, value)) {
     return context.Fail(ExitRefused, *error);
   }
   KnxStack::GroupValue groupValue;

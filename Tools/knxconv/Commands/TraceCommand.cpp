@@ -14,6 +14,12 @@ namespace Knxconv {
 namespace {
 
 constexpr const char* StandardInput = "-";
+// The continuation lines line up with the help column.
+constexpr const char* FileHelp =
+    "The trace; - or none reads standard input. Exit status of trace:\n"
+    "                      0 when every telegram converted, 1 when some telegram did not\n"
+    "                      (its line says why), 2 when the trace cannot be read or is not\n"
+    "                      a trace, or the output cannot be written";
 
 TraceResult DecodeTelegram(const Nelmo::KnxValueConverter& converter, OutputContext& context,
                            const Telegram& telegram) {
@@ -40,18 +46,18 @@ TraceResult DecodeTelegram(const Nelmo::KnxValueConverter& converter, OutputCont
 }
 
 // Opens the trace file; InputError says in the system's words why not.
-void OpenTrace(const std::string& path, std::ifstream& file) {
+void OpenTrace(const std::string& name, std::ifstream& file) {
   errno = 0;
-  file.open(path, std::ios::binary);
+  file.open(name, std::ios::binary);
   int error = errno;
   std::error_code ignored;
   // A directory opens like a file and fails only when read.
-  if (file && std::filesystem::is_directory(path, ignored)) {
+  if (file && std::filesystem::is_directory(name, ignored)) {
     error = EISDIR;
   } else if (file) {
     return;
   }
-  throw InputError("cannot read the trace '" + path + "': " + std::strerror(error != 0 ? error : EIO));
+  throw InputError("cannot read the trace '" + name + "': " + std::strerror(error != 0 ? error : EIO));
 }
 
 int RunTrace(const Arguments& arguments, OutputContext& context) {
@@ -84,7 +90,7 @@ int RunTrace(const Arguments& arguments, OutputContext& context) {
 void AddTraceCommand(CommandRegistry& registry) {
   registry.Add({"trace",
                 "Decode a telegram trace: CSV with the header time,source,destination,dpt,payload",
-                {{"FILE", "The trace; - or none reads standard input", false}},
+                {{"FILE", FileHelp, false}},
                 {},
                 RunTrace});
 }

@@ -1,11 +1,12 @@
 #include "NumberDisplay.h"
 
 #include <cmath>
+#include <cstdint>
 #include <cstdio>
 #include <cstdlib>
+#include <optional>
 #include <utility>
 
-#include "LogForwarder.h"
 #include "ValueText.h"
 
 namespace Knxconv {
@@ -31,26 +32,101 @@ auto RangeOf(const Nelmo::KnxConverter* converter) -> decltype(&std::declval<con
   }
 }
 
-// The range of a row whose converter scales numbers to and from bus
-// integers or floats. A text beyond it would be clamped to the same bytes,
-// so it must not stand for the value. The 4-bit step codes are no scale:
-// 1.5625 is a step of its own, not 2 rounded.
-class RowRange {
+// Encodes candidates with a row's converter, where the row scales numbers
+// to and from bus integers or floats, and tells which give the received
+// bytes back. A candidate beyond the row's range would be clamped to the same
+// bytes, so it must not stand for the value. The 4-bit step codes are no
+// scale: 1.5625 is a step of its own, not 2 rounded.
+class RoundTrip {
  public:
-  explicit RowRange(const Nelmo::KnxConverter* converter)
-      : m_floats(RangeOf<Nelmo::KnxConverterFloat16BitFloat, Nelmo::KnxConverterFloat32BitFloat>(converter)),
-        m_scaled(RangeOf<Nelmo::KnxConverterFloat8BitUnsigned, Nelmo::KnxConverterFloat8BitSigned,
-                         Nelmo::KnxConverterFloat16BitSigned>(converter)) {}
+  RoundTrip(Nelmo::KnxConverter* converter, const KNXDPT& dpt, const ULOVALUE& value,
+            const KnxStack::GroupValue& received)
+      : m_converter(converter),
+        m_dpt(dpt),
+        m_received(received),
+        m_trial(value.GetType()),
+        m_floats(RangeOf<Nelmo::KnxConverterFloat16BitFloat, Nelmo::KnxConverterFloat32BitFloat>(converter)),
+        // Casts cost; a float row is no scaled one.
+        m_scaled(m_floats != nullptr ? nullptr
+                                     : RangeOf<Nelmo::KnxConverterFloat8BitUnsigned, Nelmo::KnxConverterFloat8BitSigned,
+                                               Nelmo::KnxConverterFloat16BitSigned>(converter)) {}
 
   bool Scales() const { return m_floats != nullptr || m_scaled != nullptr; }
   bool Holds(double number) const {
     return m_floats != nullptr ? m_floats->IsInRange(number) : m_scaled != nullptr && m_scaled->IsInRange(number);
   }
+  bool GivesBack(double candidate) {
+    m_trial.SetDouble(candidate);
+    return Holds(candidate) && m_converter->ToKnxValue(m_dpt, m_trial, m_encoded) &&
+           m_encoded.GetRawData() == m_received.GetRawData() &&
+           m_encoded.GetDefinedSize() == m_received.GetDefinedSize();
+  }
 
  private:
+  Nelmo::KnxConverter* m_converter;
+  const KNXDPT& m_dpt;
+  const KnxStack::GroupValue& m_received;
+  ULOVALUE m_trial;
+  KnxStack::GroupValue m_encoded;
   const Nelmo::FloatRange* m_floats;
   const Nelmo::FloatIntegerRange* m_scaled;
 };
+
+// Powers of ten that a double holds exactly.
+constexpr double ExactPowers[] = {1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,  1e8,  1e9,  1e10, 1e11,
+                                  1e12, 1e13, 1e14, 1e15, 1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
+// Whole numbers of up to 15 digits are exact in a double too, so that
+// digits / 10^places is the double nearest to the decimal, as reading its
+// text gives; without printing and reading text per try.
+constexpr int ExactDigits = 15;
+constexpr int SmallestFastExponent = SmallestPlainExponent;
+constexpr int LargestFastExponent = ExactDigits;
+
+// digits × 10^-places
+struct ShortDecimal {
+  std::int64_t digits;
+  int places;
+  double Value() const {
+    return places >= 0 ? static_cast<double>(digits) / ExactPowers[places]
+                       : static_cast<double>(digits) * ExactPowers[-places];
+  }
+};
+
+ShortDecimal Rounded(double number, int significant, int exponent) {
+  const int places = significant - 1 - exponent;
+  const double scaled = places >= 0 ? number * ExactPowers[places] : number / ExactPowers[-places];
+  return {std::llround(scaled), places};
+}
+
+std::string FixedText(const ShortDecimal& decimal) {
+  std::string text = std::to_string(decimal.digits < 0 ? -decimal.digits : decimal.digits);
+  if (decimal.places <= 0) {
+    text.append(static_cast<std::size_t>(-decimal.places), '0');
+  } else {
+    const auto places = static_cast<std::size_t>(decimal.places);
+    if (text.size() <= places) {
+      text.insert(0, places + 1 - text.size(), '0');
+    }
+    text.insert(text.size() - places, ".");
+    text.erase(text.find_last_not_of('0') + 1);
+    if (text.back() == '.') {
+      text.pop_back();
+    }
+  }
+  return decimal.digits < 0 ? "-" + text : text;
+}
+
+// The slow way, for numbers too large or too small for ShortDecimal.
+std::optional<std::string> ScientificTry(double number, RoundTrip& roundTrip) {
+  char text[32];
+  for (int digits = 1; digits <= MaxDigits; ++digits) {
+    std::snprintf(text, sizeof text, "%.*e", digits - 1, number);
+    if (roundTrip.GivesBack(std::strtod(text, nullptr))) {
+      return PlainDecimal(text);
+    }
+  }
+  return std::nullopt;
+}
 
 }  // namespace
 
@@ -83,31 +159,28 @@ std::string PlainDecimal(const std::string& scientific) {
   return negative ? "-" + plain : plain;
 }
 
-std::string DisplayText(const Nelmo::KnxValueConverter& converter, const KNXDPT& dpt, const ULOVALUE& value,
+std::string DisplayText(Nelmo::KnxConverter* rowConverter, const KNXDPT& dpt, const ULOVALUE& value,
                         const KnxStack::GroupValue& received) {
   const double number = KindOf(value.GetType()) == ValueKind::Number ? value.GetDouble() : NAN;
   if (!std::isfinite(number)) {
     return value.ToString();
   }
-  // The lookup and the tries are the tool's own business, not the user's log.
-  const QuietLog quiet;
-  const RowRange range(converter.GetEntry(dpt).GetConverter());
-  if (!range.Scales()) {
+  RoundTrip roundTrip(rowConverter, dpt, value, received);
+  // Outside the row's range only the value itself stands for its bytes.
+  if (!roundTrip.Scales() || !roundTrip.Holds(number)) {
     return value.ToString();
   }
-  ULOVALUE trial(value.GetType());
-  KnxStack::GroupValue encoded;
-  char text[32];
-  for (int digits = 1; digits <= MaxDigits; ++digits) {
-    std::snprintf(text, sizeof text, "%.*e", digits - 1, number);
-    const double candidate = std::strtod(text, nullptr);
-    trial.SetDouble(candidate);
-    if (range.Holds(candidate) && converter.ToKnxValue(dpt, trial, encoded) &&
-        encoded.GetRawData() == received.GetRawData() && encoded.GetDefinedSize() == received.GetDefinedSize()) {
-      return PlainDecimal(text);
+  const int exponent = number == 0.0 ? 0 : static_cast<int>(std::floor(std::log10(std::fabs(number))));
+  if (exponent < SmallestFastExponent || exponent > LargestFastExponent) {
+    return ScientificTry(number, roundTrip).value_or(value.ToString());
+  }
+  for (int significant = 1; significant <= ExactDigits; ++significant) {
+    const ShortDecimal decimal = Rounded(number, significant, exponent);
+    if (roundTrip.GivesBack(decimal.Value())) {
+      return FixedText(decimal);
     }
   }
-  return value.ToString();
+  return ScientificTry(number, roundTrip).value_or(value.ToString());
 }
 
 }  // namespace Knxconv

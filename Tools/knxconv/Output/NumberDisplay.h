@@ -9,10 +9,11 @@ namespace Knxconv {
 // The value as text at the precision that the bus carries. A number's
 // scaling leaves round-off behind (0C 34 as DPT 9.001 reads as
 // 21.519999999999982), so it is written with the fewest significant digits
-// (1 to 17) that the library encodes back to the received bytes, within the
-// row's range: 21.52. Other values, numbers of rows without a scale, and
-// numbers that no such text gives back come as the value's own text.
-std::string DisplayText(const Nelmo::KnxValueConverter& converter, const KNXDPT& dpt, const ULOVALUE& value,
+// (1 to 17) that the row's converter, which the library uses, encodes back
+// to the received bytes within the row's range: 21.52. Other values, numbers
+// of rows without a scale, and numbers that no such text gives back come as
+// the value's own text. dpt is the row's, rowConverter its converter.
+std::string DisplayText(Nelmo::KnxConverter* rowConverter, const KNXDPT& dpt, const ULOVALUE& value,
                         const KnxStack::GroupValue& received);
 
 // Scientific notation as printf's "%e" writes it ("-3.2e+00") in plain

@@ -124,6 +124,10 @@ std::string DecodeText(const TraceResult& result) {
   return Display(result).text;
 }
 
+Json DisplayJson(const TraceResult& result) {
+  return Display(result).json;
+}
+
 TableRow DescribeRow(const Nelmo::DptValueEntry& entry) {
   TableRow row;
   row.dpt = entry.dpt;

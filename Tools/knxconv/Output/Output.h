@@ -64,6 +64,8 @@ struct TraceResult {
 Json DecodeJson(const TraceResult& result);
 // The value as users read it: unit, value names, weekday, flags, fields.
 std::string DecodeText(const TraceResult& result);
+// The members JSON adds beside "value" (see ValueDisplay).
+Json DisplayJson(const TraceResult& result);
 
 // "time  source -> destination  dpt  payload  value", or "... error: why".
 std::string TraceText(const TraceResult& result);

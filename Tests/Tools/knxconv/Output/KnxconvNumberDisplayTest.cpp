@@ -63,7 +63,8 @@ TEST_P(NumberDisplay, ShowsTheFewestDigitsThatGiveTheBytesBack) {
   const Nelmo::KnxValueConverter converter;
   ULOVALUE value;
   ASSERT_TRUE(converter.FromKnxValue(dpt, received, value));
-  EXPECT_EQ(DisplayText(converter, dpt, value, received), row.text) << row.dpt << " " << row.payload;
+  Nelmo::KnxConverter* rowConverter = converter.GetEntry(dpt).GetConverter();
+  EXPECT_EQ(DisplayText(rowConverter, dpt, value, received), row.text) << row.dpt << " " << row.payload;
 }
 
 INSTANTIATE_TEST_SUITE_P(Payloads, NumberDisplay, ::testing::ValuesIn(DisplayCases));
