@@ -5,18 +5,14 @@
 #include <string>
 #include <vector>
 
+#include "MakeDpt.h"
 #include "Output.h"
 
 namespace {
 
 using namespace Knxconv;
 
-KNXDPT Dpt(std::uint16_t mainNumber, std::uint16_t subNumber) {
-  KNXDPT dpt;
-  dpt.mainNumber = mainNumber;
-  dpt.subNumber = subNumber;
-  return dpt;
-}
+using TestSupport::MakeDpt;
 
 ULOVALUE Typed(ULOVALUE value, UloValueType type) {
   value.SetType(type);
@@ -61,12 +57,12 @@ INSTANTIATE_TEST_SUITE_P(Values, OutputValueJson, ::testing::ValuesIn(JsonCases)
 TEST(Output, EncodeJsonHasDptBitsAndHex) {
   KnxStack::GroupValue groupValue;
   groupValue.SetAsFloat16(21.5);
-  EXPECT_EQ(JsonLine(EncodeJson(Dpt(9, 1), groupValue)), R"({"dpt":"9.001","bits":16,"hex":"0C 33"})");
+  EXPECT_EQ(JsonLine(EncodeJson(MakeDpt(9, 1), groupValue)), R"({"dpt":"9.001","bits":16,"hex":"0C 33"})");
 }
 
 TEST(Output, DecodeJsonHasDptTypeSubtypeValueNameAndUnit) {
   TraceResult result;
-  result.dpt = Dpt(9, 1);
+  result.dpt = MakeDpt(9, 1);
   result.value = ULOVALUE::Double(21.5);
   result.subType = UloDP::IVST_TEMPERATURE;
   result.bytes = {0x0C, 0x33};
@@ -80,7 +76,7 @@ TableRow Row(std::uint8_t bits, std::uint16_t mainNumber, std::uint16_t subNumbe
   TableRow row;
   row.name = name;
   row.unit = unit;
-  row.dpt = Dpt(mainNumber, subNumber);
+  row.dpt = MakeDpt(mainNumber, subNumber);
   row.dpt.bitSize = bits;
   row.label = label;
   row.valueType = type;
@@ -127,7 +123,7 @@ TraceResult Result(const char* dptText, std::optional<KNXDPT> dpt) {
 }
 
 TEST(Output, TraceLineOfAConvertedTelegram) {
-  TraceResult result = Result("9.1", Dpt(9, 1));
+  TraceResult result = Result("9.1", MakeDpt(9, 1));
   result.converted = true;
   result.value = ULOVALUE::Double(21.499999999999996);
   result.text = "21.5";
@@ -142,7 +138,7 @@ TEST(Output, TraceLineOfAConvertedTelegram) {
 }
 
 TEST(Output, TraceLineOfAnEmptyValueEndsWithoutBlanks) {
-  TraceResult result = Result("9.001", Dpt(9, 1));
+  TraceResult result = Result("9.001", MakeDpt(9, 1));
   result.converted = true;
   result.value = Typed(ULOVALUE::Double(std::numeric_limits<double>::quiet_NaN()), IVT_NONE);
   EXPECT_EQ(TraceText(result), "07:00:00.000  1.1.10    -> 1/0/1      9.001    0C 33");

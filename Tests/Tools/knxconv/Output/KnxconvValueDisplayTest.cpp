@@ -5,18 +5,14 @@
 #include <string>
 #include <vector>
 
+#include "MakeDpt.h"
 #include "ValueDisplay.h"
 
 namespace {
 
 using namespace Knxconv;
 
-KNXDPT Dpt(std::uint16_t mainNumber, std::uint16_t subNumber) {
-  KNXDPT dpt;
-  dpt.mainNumber = mainNumber;
-  dpt.subNumber = subNumber;
-  return dpt;
-}
+using TestSupport::MakeDpt;
 
 ULOVALUE Time(unsigned hour, unsigned minute, unsigned second) {
   return ULOVALUE::Time(static_cast<unsigned char>(hour), static_cast<unsigned char>(minute),
@@ -138,7 +134,7 @@ class ValueDisplayForms : public ::testing::TestWithParam<DisplayCase> {};
 TEST_P(ValueDisplayForms, ShowWhatTheBusSaid) {
   const DisplayCase& row = GetParam();
   const ValueDisplay display =
-      DisplayValue(Dpt(row.mainNumber, row.subNumber), row.value, row.bytes, row.value.ToString());
+      DisplayValue(MakeDpt(row.mainNumber, row.subNumber), row.value, row.bytes, row.value.ToString());
   EXPECT_EQ(display.text, row.text);
   EXPECT_EQ(JsonLine(display.json), row.json);
 }

@@ -5,17 +5,13 @@
 
 #include "CatalogueInput.h"
 #include "InputError.h"
+#include "MakeDpt.h"
 
 namespace {
 
 using namespace Knxconv;
 
-KNXDPT Dpt(std::uint16_t mainNumber, std::uint16_t subNumber) {
-  KNXDPT dpt;
-  dpt.mainNumber = mainNumber;
-  dpt.subNumber = subNumber;
-  return dpt;
-}
+using TestSupport::MakeDpt;
 
 struct HexCase {
   const char* text;
@@ -82,7 +78,7 @@ class CatalogueInputValue : public ::testing::TestWithParam<ValueCase> {};
 
 TEST_P(CatalogueInputValue, MakesTheParsersForm) {
   const ValueCase& row = GetParam();
-  EXPECT_EQ(NormaliseValue(Dpt(row.mainNumber, row.subNumber), row.type, row.text), row.normalised);
+  EXPECT_EQ(NormaliseValue(MakeDpt(row.mainNumber, row.subNumber), row.type, row.text), row.normalised);
 }
 
 INSTANTIATE_TEST_SUITE_P(Forms, CatalogueInputValue, ::testing::ValuesIn(ValueCases));
@@ -105,7 +101,7 @@ class CatalogueInputWrongUnit : public ::testing::TestWithParam<WrongUnitCase> {
 TEST_P(CatalogueInputWrongUnit, NamesTheExpectedUnit) {
   const WrongUnitCase& row = GetParam();
   try {
-    NormaliseValue(Dpt(row.mainNumber, row.subNumber), IVT_DOUBLE, row.text);
+    NormaliseValue(MakeDpt(row.mainNumber, row.subNumber), IVT_DOUBLE, row.text);
     FAIL() << "accepted " << row.text;
   } catch (const InputError& error) {
     EXPECT_EQ(std::string(error.what()), row.message);
