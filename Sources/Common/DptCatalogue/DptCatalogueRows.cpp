@@ -3,11 +3,14 @@
 #include "DptBooleanNames.h"
 #include "DptEnumerationNames.h"
 
-// Facts of the KNX standard's datapoint type list, each taken from two
-// sources: the list as published in the data of two open-source KNX
-// libraries (npm packages), and the manufacturers' association's published
-// documentation of the datapoint types. Where they differ, the standard's own
-// names and units are kept.
+// Facts of the KNX standard's datapoint type list, each checked against at
+// least two sources: the datapoint data of two open-source KNX libraries
+// (npm), the datapoint tables of further open-source KNX libraries, the
+// association's machine-readable datapoint master data as carried by those
+// tables, and the association's published documentation of the datapoint
+// types (overview, formats, ranges, units and value names). Where they differ,
+// the published documentation wins; where the documentation itself spells a
+// name two ways, the master data's spelling is kept.
 
 namespace Nelmo::DptCatalogueRows {
 

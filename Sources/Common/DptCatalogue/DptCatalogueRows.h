@@ -17,105 +17,31 @@ constexpr double NoLimit = std::numeric_limits<double>::quiet_NaN();
 constexpr std::uint16_t UnknownBitSize = 0xFFFF;
 
 // The size of each main type's format in the standard.
+struct MainSize {
+  std::uint16_t mainNumber;
+  std::uint16_t bitSize;
+};
+
+constexpr std::uint16_t Variable = DptCatalogue::VariableBitSize;
+
+constexpr MainSize MainSizes[] = {
+    {1, 1},         {2, 2},    {3, 4},    {4, 8},    {5, 8},    {6, 8},         {7, 16},   {8, 16},   {9, 16},
+    {10, 24},       {11, 24},  {12, 32},  {13, 32},  {14, 32},  {15, 32},       {16, 112}, {17, 8},   {18, 8},
+    {19, 64},       {20, 8},   {21, 8},   {22, 16},  {23, 2},   {24, Variable}, {25, 8},   {26, 8},   {27, 32},
+    {28, Variable}, {29, 64},  {30, 24},  {31, 3},   {200, 16}, {201, 16},      {202, 16}, {203, 24}, {204, 16},
+    {205, 24},      {206, 24}, {207, 16}, {209, 24}, {210, 32}, {211, 16},      {212, 48}, {213, 64}, {214, 32},
+    {215, 40},      {216, 40}, {217, 16}, {218, 40}, {219, 48}, {220, 32},      {221, 48}, {222, 48}, {223, 24},
+    {224, 48},      {225, 24}, {229, 48}, {230, 64}, {231, 32}, {232, 24},      {234, 16}, {235, 48}, {236, 8},
+    {237, 16},      {238, 8},  {239, 16}, {240, 24}, {241, 32}, {242, 48},      {243, 64}, {244, 16}, {245, 48},
+    {246, 16},      {249, 48}, {250, 24}, {251, 48}, {252, 40}, {253, 32},      {254, 24}, {255, 64}, {275, 64}};
+
 constexpr std::uint16_t MainBitSize(std::uint16_t mainNumber) {
-  switch (mainNumber) {
-    case 1:
-      return 1;
-    case 2:
-    case 23:
-      return 2;
-    case 31:
-      return 3;
-    case 3:
-      return 4;
-    case 7:
-    case 8:
-    case 9:
-    case 22:
-    case 200:
-    case 201:
-    case 202:
-    case 204:
-    case 207:
-    case 211:
-    case 217:
-    case 234:
-    case 237:
-    case 239:
-    case 244:
-    case 246:
-      return 16;
-    case 10:
-    case 11:
-    case 30:
-    case 203:
-    case 205:
-    case 206:
-    case 209:
-    case 223:
-    case 225:
-    case 232:
-    case 240:
-    case 250:
-    case 254:
-      return 24;
-    case 12:
-    case 13:
-    case 14:
-    case 15:
-    case 27:
-    case 210:
-    case 214:
-    case 220:
-    case 231:
-    case 241:
-    case 253:
-      return 32;
-    case 215:
-    case 216:
-    case 218:
-    case 252:
-      return 40;
-    case 212:
-    case 219:
-    case 221:
-    case 222:
-    case 224:
-    case 229:
-    case 235:
-    case 242:
-    case 245:
-    case 249:
-    case 251:
-      return 48;
-    case 19:
-    case 29:
-    case 213:
-    case 230:
-    case 243:
-    case 255:
-    case 275:
-      return 64;
-    case 16:
-      return 112;
-    case 4:
-    case 5:
-    case 6:
-    case 17:
-    case 18:
-    case 20:
-    case 21:
-    case 25:
-    case 26:
-    case 236:
-    case 238:
-      return 8;
-    case 24:
-    case 28:
-      return DptCatalogue::VariableBitSize;
-    default:
-      return UnknownBitSize;
+  for (const MainSize& row : MainSizes) {
+    if (row.mainNumber == mainNumber) {
+      return row.bitSize;
+    }
   }
+  return UnknownBitSize;
 }
 
 constexpr DptSubtype Row(std::uint16_t mainNumber, std::uint16_t subNumber, const char* name, const char* description,

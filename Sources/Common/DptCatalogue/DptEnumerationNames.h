@@ -119,12 +119,24 @@ inline constexpr DptValueName PBAction[] = {{0, "inactive (no message sent)"},
                                             {3, "inverse value of info sent"}};
 inline constexpr DptValueName SwitchOnMode[] = {
     {0, "last actual value"}, {1, "value according additional parameter"}, {2, "last received absolute set value"}};
-inline constexpr DptValueName LoadTypeSet[] = {
-    {0, "automatic"}, {1, "leading edge (inductive load)"}, {2, "trailing edge (capacitive load)"}};
+inline constexpr DptValueName LoadTypeSet[] = {{0, "automatic"},
+                                               {1, "leading edge (inductive load)"},
+                                               {2, "trailing edge (resistive or capacitive load)"},
+                                               {3, "switch mode only (non-dimmable load)"},
+                                               {4, "automatic once"},
+                                               {5, "CFL, leading"},
+                                               {6, "CFL, trailing"},
+                                               {7, "LED, leading"},
+                                               {8, "LED, trailing"}};
 inline constexpr DptValueName LoadTypeDetected[] = {{0, "undefined"},
                                                     {1, "leading edge (inductive load)"},
                                                     {2, "trailing edge (capacitive load)"},
-                                                    {3, "detection not possible or error"}};
+                                                    {3, "detection not possible or error"},
+                                                    {4, "calibration pending, waiting on trigger"},
+                                                    {5, "CFL, leading"},
+                                                    {6, "CFL, trailing"},
+                                                    {7, "LED, leading"},
+                                                    {8, "LED, trailing"}};
 inline constexpr DptValueName SABExceptBehaviour[] = {
     {0, "up"}, {1, "down"}, {2, "no change"}, {3, "value according additional parameter"}, {4, "stop"}};
 inline constexpr DptValueName SABBehaviourLockUnlock[] = {
