@@ -22,27 +22,11 @@ std::string OutputContext::TakeLogErrors() {
 }
 
 void OutputContext::PrintLine(std::string_view text) {
-  if (OutputFailed()) {
-    return;
-  }
-  errno = 0;
-  m_out << EscapeText(text) << '\n';
-  CheckOutput();
-  if (m_flushEachLine) {
-    FlushOutput();
-  }
+  WriteLine(EscapeText(text));
 }
 
 void OutputContext::PrintJson(const Json& json) {
-  if (OutputFailed()) {
-    return;
-  }
-  errno = 0;
-  m_out << JsonLine(json) << '\n';
-  CheckOutput();
-  if (m_flushEachLine) {
-    FlushOutput();
-  }
+  WriteLine(JsonLine(json));
 }
 
 void OutputContext::PrintText(std::string_view text) {
@@ -95,6 +79,18 @@ int OutputContext::Finish(int status) {
   }
   Message(std::string("cannot write the output: ") + std::strerror(m_writeError));
   return ExitUsage;
+}
+
+void OutputContext::WriteLine(const std::string& line) {
+  if (OutputFailed()) {
+    return;
+  }
+  errno = 0;
+  m_out << line << '\n';
+  CheckOutput();
+  if (m_flushEachLine) {
+    FlushOutput();
+  }
 }
 
 void OutputContext::FlushOutput() {

@@ -65,6 +65,8 @@ class OutputContext {
   int Finish(int status);
 
  private:
+  // Writes a line that is ready to print, unless output already failed.
+  void WriteLine(const std::string& line);
   // Standard output is flushed before anything goes to standard error: the
   // lines keep their order, and a failed write is seen with its errno (a
   // tied stream's flush would lose it).

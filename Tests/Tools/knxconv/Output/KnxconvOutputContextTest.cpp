@@ -44,21 +44,28 @@ TEST(OutputContext, PrintsJsonLinesInJsonMode) {
   EXPECT_EQ(streams.out.str(), "\"\\u001b\"\n");
 }
 
-TEST(OutputContext, FailureIsALineOnStandardErrorInTextMode) {
+struct FailCase {
+  bool json;
+  const char* out;
+};
+
+// The message carries an argument with ESC, escaped in both forms.
+const FailCase FailCases[] = {
+    {false, ""},
+    {true, "{\"error\":\"not a DPT: '9.\\u001b'\",\"status\":2}\n"},
+};
+
+class OutputContextFail : public ::testing::TestWithParam<FailCase> {};
+
+TEST_P(OutputContextFail, IsALineOnStandardErrorAndInJsonModeAlsoAnObject) {
   Streams streams;
-  OutputContext context(false, streams.in, streams.out, streams.err);
+  OutputContext context(GetParam().json, streams.in, streams.out, streams.err);
   EXPECT_EQ(context.Fail(ExitUsage, "not a DPT: '9.\x1B'"), ExitUsage);
-  EXPECT_EQ(streams.out.str(), "");
+  EXPECT_EQ(streams.out.str(), GetParam().out);
   EXPECT_EQ(streams.err.str(), "knxconv: not a DPT: '9.\\x1B'\n");
 }
 
-TEST(OutputContext, FailureIsAlsoAJsonObjectInJsonMode) {
-  Streams streams;
-  OutputContext context(true, streams.in, streams.out, streams.err);
-  EXPECT_EQ(context.Fail(ExitUsage, "not a DPT: '9.\x1B'"), ExitUsage);
-  EXPECT_EQ(streams.out.str(), "{\"error\":\"not a DPT: '9.\\u001b'\",\"status\":2}\n");
-  EXPECT_EQ(streams.err.str(), "knxconv: not a DPT: '9.\\x1B'\n");
-}
+INSTANTIATE_TEST_SUITE_P(Modes, OutputContextFail, ::testing::ValuesIn(FailCases));
 
 TEST(OutputContext, RefusalInJsonModeCarriesTheLibrarysErrors) {
   Streams streams;
