@@ -3,9 +3,17 @@
 # scripts/demo-bus.sh and the bus tests. Every wait is bounded, and
 # bus_cleanup (run on exit) ends every process started here.
 #
-# Needs: KNXCONV (the program), BUS_DIR (a private directory).
+# Needs: KNXCONV (the program), BUS_DIR (a private directory); bus_begin
+# sets both for a script of its own.
 
 BUS_PIDS=()
+
+# bus_begin KNXCONV: a temporary BUS_DIR, removed on exit after bus_cleanup.
+bus_begin() {
+  KNXCONV=$(realpath "$1")
+  BUS_DIR=$(mktemp -d)
+  trap 'bus_cleanup; rm -rf "$BUS_DIR"' EXIT
+}
 
 bus_url() { echo "local:$BUS_DIR/knx"; }
 

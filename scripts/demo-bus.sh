@@ -5,11 +5,9 @@
 # shown, and everything stopped again.
 # Usage: scripts/demo-bus.sh KNXCONV
 set -u
-KNXCONV=$(realpath "$1")
 ROOT=$(cd "$(dirname "$0")/.." && pwd)
-BUS_DIR=$(mktemp -d)
 source "$ROOT/scripts/bus-lib.sh"
-trap 'bus_cleanup; rm -rf "$BUS_DIR"' EXIT
+bus_begin "$1"
 
 bus_start_knxd || exit 1
 bus_start_monitor --addresses "$ROOT/examples/group-addresses.xml" || exit 1

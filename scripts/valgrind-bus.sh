@@ -5,11 +5,9 @@
 # that does not reconnect, or an exit status other than 0.
 # Usage: scripts/valgrind-bus.sh KNXCONV
 set -u
-KNXCONV=$(realpath "$1")
 ROOT=$(cd "$(dirname "$0")/.." && pwd)
-BUS_DIR=$(mktemp -d)
 source "$ROOT/scripts/bus-lib.sh"
-trap 'bus_cleanup; rm -rf "$BUS_DIR"' EXIT
+bus_begin "$1"
 
 fail() {
   echo "valgrind-bus: $*" >&2

@@ -12,16 +12,7 @@ namespace Knxconv {
 
 namespace {
 
-constexpr std::size_t AddressWidth = 9;
 constexpr std::size_t ServiceWidth = 8;
-constexpr std::size_t DptWidth = 8;
-
-std::string Padded(std::string text, std::size_t width) {
-  if (text.size() < width) {
-    text.append(width - text.size(), ' ');
-  }
-  return text;
-}
 
 // A read carries no value, so it is not shown raw for want of a DPT.
 std::string LineDpt(const BusLine& line) {

@@ -56,14 +56,11 @@ int RunSend(const Arguments& arguments, OutputContext& context) {
   const std::uint16_t address = RequiredGroupAddress(arguments);
   KNXDPT dpt = RequiredDpt(arguments);
   const Nelmo::KnxValueConverter converter;
-  const ULOVALUE value = ValueToSend(converter, dpt, arguments);
-  if (const std::optional<std::string> error = SendError(converter, dpt, value)) {
-    return context.Fail(ExitRefused, *error);
+  const Encoded encoded = EncodeValue(converter, dpt, arguments, context);
+  if (encoded.status != ExitSuccess) {
+    return encoded.status;
   }
-  KnxStack::GroupValue groupValue;
-  if (!converter.ToKnxValue(dpt, value, groupValue)) {
-    return context.Refused();
-  }
+  const KnxStack::GroupValue& groupValue = encoded.groupValue;
   return RunBusCommand(context, [&]() {
     BusConnection connection(options.url, ConnectTimeoutSeconds);
     connection.Send(address, EncodeGroupFrame(GroupService::Write, groupValue));

@@ -96,4 +96,16 @@ std::optional<std::string> SendError(const Nelmo::KnxValueConverter& converter, 
   return YearWindowError(dpt, QuietEntry(converter, dpt).GetConverter(), value);
 }
 
+Encoded EncodeValue(const Nelmo::KnxValueConverter& converter, KNXDPT& dpt, const Arguments& arguments,
+                    OutputContext& context) {
+  Encoded encoded;
+  const ULOVALUE value = ValueToSend(converter, dpt, arguments);
+  if (const std::optional<std::string> error = SendError(converter, dpt, value)) {
+    encoded.status = context.Fail(ExitRefused, *error);
+  } else if (!converter.ToKnxValue(dpt, value, encoded.groupValue)) {
+    encoded.status = context.Refused();
+  }
+  return encoded;
+}
+
 }  // namespace Knxconv

@@ -6,6 +6,7 @@
 #include "Arguments.h"
 #include "KnxValueConverterApi.h"
 #include "Output.h"
+#include "OutputContext.h"
 
 namespace Knxconv {
 
@@ -36,5 +37,15 @@ ULOVALUE ValueToSend(const Nelmo::KnxValueConverter& converter, const KNXDPT& dp
 // impossible dates and times as they are given.
 std::optional<std::string> SendError(const Nelmo::KnxValueConverter& converter, const KNXDPT& dpt,
                                      const ULOVALUE& value);
+
+// What encode makes of VALUE for dpt (completed as the library completes
+// it): the group value, or the exit status of its refusal, already told
+// through context.
+struct Encoded {
+  KnxStack::GroupValue groupValue;
+  int status = ExitSuccess;
+};
+Encoded EncodeValue(const Nelmo::KnxValueConverter& converter, KNXDPT& dpt, const Arguments& arguments,
+                    OutputContext& context);
 
 }  // namespace Knxconv

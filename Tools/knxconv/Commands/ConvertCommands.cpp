@@ -16,15 +16,11 @@ constexpr const char* DptHelp =
 int RunEncode(const Arguments& arguments, OutputContext& context) {
   KNXDPT dpt = DptWithBits(*arguments.Positional("DPT"), arguments.Integer("--bits", 1, MaximumBits, 0));
   const Nelmo::KnxValueConverter converter;
-  const ULOVALUE value = ValueToSend(converter, dpt, arguments);
-  if (const std::optional<std::string> error = SendError(converter, dpt, value)) {
-    return context.Fail(ExitRefused, *error);
+  const Encoded encoded = EncodeValue(converter, dpt, arguments, context);
+  if (encoded.status != ExitSuccess) {
+    return encoded.status;
   }
-  KnxStack::GroupValue groupValue;
-  if (!converter.ToKnxValue(dpt, value, groupValue)) {
-    return context.Refused();
-  }
-  context.PrintResult(groupValue.GetRawData().ToString(), EncodeJson(dpt, groupValue));
+  context.PrintResult(encoded.groupValue.GetRawData().ToString(), EncodeJson(dpt, encoded.groupValue));
   return ExitSuccess;
 }
 

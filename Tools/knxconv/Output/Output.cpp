@@ -16,8 +16,6 @@ namespace Knxconv {
 namespace {
 
 constexpr const char* NoRange = "-";
-constexpr std::size_t AddressWidth = 9;
-constexpr std::size_t DptWidth = 8;
 // Eight bytes, the longest payload but for texts.
 constexpr std::size_t PayloadWidth = 23;
 
@@ -28,14 +26,6 @@ std::size_t Width(std::string_view text) {
     width += (static_cast<unsigned char>(c) & 0xC0U) != 0x80U ? 1 : 0;
   }
   return width;
-}
-
-std::string Padded(std::string text, std::size_t width) {
-  const std::size_t current = Width(text);
-  if (current < width) {
-    text.append(width - current, ' ');
-  }
-  return text;
 }
 
 std::string OrNone(const std::string& text) {
@@ -68,6 +58,14 @@ std::vector<std::string> RowColumns(const TableRow& row) {
 }
 
 }  // namespace
+
+std::string Padded(std::string text, std::size_t width) {
+  const std::size_t current = Width(text);
+  if (current < width) {
+    text.append(width - current, ' ');
+  }
+  return text;
+}
 
 std::string JsonLine(const Json& json) {
   return EscapeJsonControls(json.dump(-1, ' ', false, Json::error_handler_t::replace));

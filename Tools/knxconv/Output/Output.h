@@ -13,6 +13,15 @@ namespace Knxconv {
 
 using Json = nlohmann::ordered_json;
 
+// Column widths of the telegram lines (trace, monitor): addresses, DPT,
+// value type.
+constexpr std::size_t AddressWidth = 9;
+constexpr std::size_t DptWidth = 8;
+constexpr std::size_t TypeWidth = 13;
+
+// text with blanks appended up to width, counted in characters.
+std::string Padded(std::string text, std::size_t width);
+
 // One line of JSON; bytes that are not UTF-8 become U+FFFD (never thrown
 // over), control characters are escaped, DEL and C1 included.
 std::string JsonLine(const Json& json);
