@@ -45,7 +45,9 @@ std::string BusLineText(const BusLine& line) {
   if (!line.result.error.empty()) {
     text += "  error: " + line.result.error;
   } else if (line.decoded) {
-    text += "  " + Padded(ValueTypeText(line.result.value.GetType()), TypeWidth) + " " + line.result.text;
+    // An empty value leaves no blanks before the name.
+    const std::string value = DecodeText(line.result);
+    text += value.empty() ? "" : "  " + value;
   }
   if (!line.name.empty()) {
     text += "  (" + line.name + ")";
@@ -70,6 +72,11 @@ Json BusLineJson(const BusLine& line) {
     json["type"] = ValueTypeText(line.result.value.GetType());
     json["subtype"] = ValueSubTypeText(line.result.subType);
     json["value"] = ValueJson(line.result.value);
+    // "name" is the group address's here.
+    Json display = DisplayJson(line.result);
+    display["dptName"] = display["name"];
+    display.erase("name");
+    json.update(display);
   }
   return json;
 }

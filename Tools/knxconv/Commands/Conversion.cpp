@@ -1,6 +1,7 @@
 #include "Conversion.h"
 
 #include "CalendarCheck.h"
+#include "CatalogueInput.h"
 #include "DptText.h"
 #include "HexText.h"
 #include "LogForwarder.h"
@@ -43,7 +44,7 @@ KNXDPT DptWithBits(const std::string& text, int bits) {
 }
 
 void Decode(const Nelmo::KnxValueConverter& converter, const std::string& payload, int bits, TraceResult& result) {
-  const KnxStack::BinaryData data = ParseHex(payload);
+  const KnxStack::BinaryData data = ParseHex(NormaliseHex(payload));
   if (auto error = PayloadSizeError(*result.dpt, static_cast<unsigned int>(bits), data)) {
     result.error = std::move(*error);
     return;
@@ -52,12 +53,14 @@ void Decode(const Nelmo::KnxValueConverter& converter, const std::string& payloa
 }
 
 KnxStack::GroupValue PayloadGroupValue(const KNXDPT& dpt, const std::string& payload, int bits) {
-  const KnxStack::BinaryData data = ParseHex(payload);
+  const KnxStack::BinaryData data = ParseHex(NormaliseHex(payload));
   return KnxStack::GroupValue(data, GroupValueBits(dpt, bits, data));
 }
 
 void ConvertGroupValue(const Nelmo::KnxValueConverter& converter, const KnxStack::GroupValue& groupValue,
                        TraceResult& result) {
+  const KnxStack::BinaryData& data = groupValue.GetRawData();
+  result.bytes.assign(data.GetData(), data.GetData() + data.GetLength());
   result.converted = converter.FromKnxValue(*result.dpt, groupValue, result.value);
   if (result.converted) {
     const Nelmo::DptValueEntry& entry = QuietEntry(converter, *result.dpt);
@@ -82,7 +85,7 @@ ULOVALUE ValueToSend(const Nelmo::KnxValueConverter& converter, const KNXDPT& dp
   if (!value) {
     throw UsageError("VALUE is missing");
   }
-  return ParseValue(type, *value, arguments.Flag("--summer-time"));
+  return ParseValue(type, NormaliseValue(dpt, type, *value), arguments.Flag("--summer-time"));
 }
 
 std::optional<std::string> SendError(const Nelmo::KnxValueConverter& converter, const KNXDPT& dpt,

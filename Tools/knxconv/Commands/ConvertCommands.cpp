@@ -1,3 +1,4 @@
+#include "CatalogueInput.h"
 #include "Conversion.h"
 #include "InputError.h"
 #include "StandardCommands.h"
@@ -9,7 +10,8 @@ namespace Knxconv {
 namespace {
 
 constexpr int MaximumBits = 255;
-constexpr const char* DptHelp = "9.001, 9.1, 9 or 9.x; 0 for none (completed from --bits and the type)";
+constexpr const char* DptHelp =
+    "9.001, 9.1, 9, 9.x, DPT9.001, DPST-9-1 or DPT_Value_Temp; 0 for none (completed from --bits and the type)";
 
 int RunEncode(const Arguments& arguments, OutputContext& context) {
   KNXDPT dpt = DptWithBits(*arguments.Positional("DPT"), arguments.Integer("--bits", 1, MaximumBits, 0));
@@ -37,7 +39,7 @@ int RunDecode(const Arguments& arguments, OutputContext& context) {
   if (!result.converted) {
     return context.Refused();
   }
-  context.PrintResult(result.text, DecodeJson(*result.dpt, result.value, result.subType));
+  context.PrintResult(DecodeText(result), DecodeJson(result));
   return ExitSuccess;
 }
 
@@ -46,7 +48,11 @@ int RunDecode(const Arguments& arguments, OutputContext& context) {
 void AddConvertCommands(CommandRegistry& registry) {
   registry.Add({"encode",
                 "Convert a value to the bytes of a KNX group value",
-                {{"DPT", DptHelp, true}, {"VALUE", "The value, read as the DPT's value type or as --type says", false}},
+                {{"DPT", DptHelp, true},
+                 {"VALUE",
+                  "The value, read as the DPT's value type or as --type says: on/off, a value name, 21.5 °C, "
+                  "2024-03-04T07:30:15",
+                  false}},
                 {{"--type", "TYPE",
                   "Value type of VALUE: its name without IVT_ (double, percent, ...) or its number; none sends no "
                   "value",
@@ -57,7 +63,7 @@ void AddConvertCommands(CommandRegistry& registry) {
   registry.Add(
       {"decode",
        "Convert the bytes of a KNX group value to a value",
-       {{"DPT", DptHelp, true}, {"HEX", "The bytes as hex pairs, blanks optional: \"0C 33\" or 0C33", true}},
+       {{"DPT", DptHelp, true}, {"HEX", "The bytes as hex pairs: \"0C 33\", 0C33, 0x0C33, 0C:33 or 0C-33", true}},
        {{"--bits", "N", "Bit size of the group value (default: the DPT's size up to 6 bits, else 8 per byte)", false},
         {"--type", "TYPE", "Value type wanted where the DPT is 0", false}},
        RunDecode});

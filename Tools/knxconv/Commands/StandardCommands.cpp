@@ -6,6 +6,7 @@ CommandRegistry StandardCommands() {
   CommandRegistry registry;
   AddConvertCommands(registry);
   AddTableCommand(registry);
+  AddDptCommands(registry);
   AddTraceCommand(registry);
   return registry;
 }

@@ -6,6 +6,7 @@ namespace Knxconv {
 
 // Each group of commands adds itself (one file each under Commands/).
 void AddConvertCommands(CommandRegistry& registry);
+void AddDptCommands(CommandRegistry& registry);
 void AddTableCommand(CommandRegistry& registry);
 void AddTraceCommand(CommandRegistry& registry);
 

@@ -3,10 +3,14 @@
 #include <algorithm>
 #include <cmath>
 #include <sstream>
+#include <string>
+#include <string_view>
 
+#include "CatalogueInput.h"
 #include "ConverterInfo.h"
 #include "DptText.h"
 #include "TextEscape.h"
+#include "ValueDisplay.h"
 #include "ValueText.h"
 
 namespace Knxconv {
@@ -14,6 +18,31 @@ namespace Knxconv {
 namespace {
 
 constexpr const char* NoRange = "-";
+// Eight bytes, the longest payload but for texts.
+constexpr std::size_t PayloadWidth = 23;
+
+// Characters, not bytes: "°C" takes two columns.
+std::size_t Width(std::string_view text) {
+  std::size_t width = 0;
+  for (const char c : text) {
+    width += (static_cast<unsigned char>(c) & 0xC0U) != 0x80U ? 1 : 0;
+  }
+  return width;
+}
+
+std::string OrNone(const std::string& text) {
+  return text.empty() ? NoRange : text;
+}
+
+Json TextOrNull(const std::string& text) {
+  return text.empty() ? Json(nullptr) : Json(text);
+}
+
+ValueDisplay Display(const TraceResult& result) {
+  return DisplayValue(*result.dpt, result.value, result.bytes,
+                      result.text.empty() ? result.value.ToString() : result.text);
+}
+
 std::string TraceDpt(const TraceResult& result) {
   return result.dpt ? FormatDpt(*result.dpt) : result.telegram.dpt;
 }
@@ -21,6 +50,8 @@ std::string TraceDpt(const TraceResult& result) {
 std::vector<std::string> RowColumns(const TableRow& row) {
   return {FormatDpt(row.dpt),
           row.label,
+          OrNone(row.name),
+          OrNone(row.unit),
           std::to_string(row.dpt.bitSize),
           ValueTypeText(row.valueType),
           ValueSubTypeText(row.subType),
@@ -31,8 +62,9 @@ std::vector<std::string> RowColumns(const TableRow& row) {
 }  // namespace
 
 std::string Padded(std::string text, std::size_t width) {
-  if (text.size() < width) {
-    text.append(width - text.size(), ' ');
+  const std::size_t current = Width(text);
+  if (current < width) {
+    text.append(width - current, ' ');
   }
   return text;
 }
@@ -78,19 +110,32 @@ Json EncodeJson(const KNXDPT& dpt, const KnxStack::GroupValue& groupValue) {
   return json;
 }
 
-Json DecodeJson(const KNXDPT& dpt, const ULOVALUE& value, UloDP::UloValueSubType subType) {
+Json DecodeJson(const TraceResult& result) {
   Json json;
-  json["dpt"] = FormatDpt(dpt);
-  json["type"] = ValueTypeText(value.GetType());
-  json["subtype"] = ValueSubTypeText(subType);
-  json["value"] = ValueJson(value);
+  json["dpt"] = FormatDpt(*result.dpt);
+  json["type"] = ValueTypeText(result.value.GetType());
+  json["subtype"] = ValueSubTypeText(result.subType);
+  json["value"] = ValueJson(result.value);
+  json.update(Display(result).json);
   return json;
+}
+
+std::string DecodeText(const TraceResult& result) {
+  return Display(result).text;
+}
+
+Json DisplayJson(const TraceResult& result) {
+  return Display(result).json;
 }
 
 TableRow DescribeRow(const Nelmo::DptValueEntry& entry) {
   TableRow row;
   row.dpt = entry.dpt;
   row.label = DptLabel(entry.dpt);
+  if (const Nelmo::DptSubtype* subtype = SubtypeOf(entry.dpt)) {
+    row.name = subtype->name;
+    row.unit = subtype->unit;
+  }
   row.valueType = entry.valueType;
   row.subType = entry.subType;
   if (const Nelmo::KnxConverter* converter = entry.GetConverter()) {
@@ -100,14 +145,12 @@ TableRow DescribeRow(const Nelmo::DptValueEntry& entry) {
   return row;
 }
 
-std::string TableText(const std::vector<TableRow>& rows) {
-  std::vector<std::vector<std::string>> lines;
+std::string AlignColumns(const std::vector<std::vector<std::string>>& lines) {
   std::vector<std::size_t> widths;
-  for (const TableRow& row : rows) {
-    lines.push_back(RowColumns(row));
-    widths.resize(lines.back().size());
-    for (std::size_t column = 0; column < widths.size(); ++column) {
-      widths[column] = std::max(widths[column], lines.back()[column].size());
+  for (const std::vector<std::string>& line : lines) {
+    widths.resize(std::max(widths.size(), line.size()));
+    for (std::size_t column = 0; column < line.size(); ++column) {
+      widths[column] = std::max(widths[column], Width(line[column]));
     }
   }
   std::string text;
@@ -120,12 +163,23 @@ std::string TableText(const std::vector<TableRow>& rows) {
   return text;
 }
 
+std::string TableText(const std::vector<TableRow>& rows) {
+  std::vector<std::vector<std::string>> lines;
+  lines.reserve(rows.size());
+  for (const TableRow& row : rows) {
+    lines.push_back(RowColumns(row));
+  }
+  return AlignColumns(lines);
+}
+
 Json TableJson(const std::vector<TableRow>& rows) {
   Json json = Json::array();
   for (const TableRow& row : rows) {
     Json entry;
     entry["dpt"] = FormatDpt(row.dpt);
     entry["label"] = row.label;
+    entry["name"] = TextOrNull(row.name);
+    entry["unit"] = TextOrNull(row.unit);
     entry["bits"] = row.dpt.bitSize;
     entry["type"] = ValueTypeText(row.valueType);
     entry["subtype"] = ValueSubTypeText(row.subType);
@@ -150,7 +204,7 @@ void AppendPadded(std::string& line, std::string_view text, std::size_t width) {
 
 std::string TraceText(const TraceResult& result) {
   // One string built in place: this runs once per telegram of a trace.
-  constexpr std::size_t Typical = 96;
+  constexpr std::size_t Typical = 112;
   const Telegram& telegram = result.telegram;
   std::string text;
   text.reserve(Typical);
@@ -161,11 +215,12 @@ std::string TraceText(const TraceResult& result) {
   text.append("  ");
   AppendPadded(text, TraceDpt(result), DptWidth);
   text.append(" ");
+  AppendPadded(text, telegram.payload, PayloadWidth);
+  text.append(" ");
   if (!result.converted) {
     return text.append("error: ").append(result.error);
   }
-  AppendPadded(text, ValueTypeText(result.value.GetType()), TypeWidth);
-  text.append(" ").append(result.text);
+  text += DecodeText(result);
   // An empty value leaves no blanks at the end of the line.
   text.erase(text.find_last_not_of(' ') + 1);
   return text;
@@ -187,6 +242,7 @@ Json TraceJson(const TraceResult& result) {
   json["type"] = ValueTypeText(result.value.GetType());
   json["subtype"] = ValueSubTypeText(result.subType);
   json["value"] = ValueJson(result.value);
+  json.update(Display(result).json);
   return json;
 }
 

@@ -19,7 +19,7 @@ constexpr std::size_t AddressWidth = 9;
 constexpr std::size_t DptWidth = 8;
 constexpr std::size_t TypeWidth = 13;
 
-// text with blanks appended up to width.
+// text with blanks appended up to width, counted in characters.
 std::string Padded(std::string text, std::size_t width);
 
 // One line of JSON; bytes that are not UTF-8 become U+FFFD (never thrown
@@ -31,12 +31,13 @@ std::string JsonLine(const Json& json);
 Json ValueJson(const ULOVALUE& value);
 
 Json EncodeJson(const KNXDPT& dpt, const KnxStack::GroupValue& groupValue);
-Json DecodeJson(const KNXDPT& dpt, const ULOVALUE& value, UloDP::UloValueSubType subType);
 
 // One row of the DPT table as the tool shows it.
 struct TableRow {
   KNXDPT dpt;
   std::string label;
+  std::string name;  // of the catalogue's sub-type; empty when none
+  std::string unit;
   UloValueType valueType = IVT_ANY;
   UloDP::UloValueSubType subType = UloDP::IVST_NONE;
   std::string converter;
@@ -44,8 +45,12 @@ struct TableRow {
 };
 
 TableRow DescribeRow(const Nelmo::DptValueEntry& entry);
-// The rows as aligned columns, one line each: DPT, label, bits, value type,
-// subtype, converter, range ("-" for none).
+// Lines of columns, each padded to its widest cell (in characters, not
+// bytes) and two blanks apart.
+std::string AlignColumns(const std::vector<std::vector<std::string>>& lines);
+
+// The rows as aligned columns, one line each: DPT, label, name, unit, bits,
+// value type, subtype, converter, range ("-" for none).
 std::string TableText(const std::vector<TableRow>& rows);
 Json TableJson(const std::vector<TableRow>& rows);
 
@@ -59,10 +64,19 @@ struct TraceResult {
   // The value as the text output shows it.
   std::string text;
   UloDP::UloValueSubType subType = UloDP::IVST_NONE;
+  // The payload's bytes, once read.
+  std::vector<unsigned char> bytes;
   std::string error;
 };
 
-// "time  source -> destination  dpt  type  value", or "... error: why".
+// A decoded value: dpt, type, subtype, value, then the display's members.
+Json DecodeJson(const TraceResult& result);
+// The value as users read it: unit, value names, weekday, flags, fields.
+std::string DecodeText(const TraceResult& result);
+// The members JSON adds beside "value" (see ValueDisplay).
+Json DisplayJson(const TraceResult& result);
+
+// "time  source -> destination  dpt  payload  value", or "... error: why".
 std::string TraceText(const TraceResult& result);
 Json TraceJson(const TraceResult& result);
 

@@ -1,10 +1,13 @@
 #include "DptText.h"
 
 #include <cstdint>
+#include <cstdio>
 #include <limits>
 #include <optional>
 #include <string>
+#include <vector>
 
+#include "DptCatalogue.h"
 #include "InputError.h"
 #include "NumberText.h"
 
@@ -12,32 +15,46 @@ namespace Knxconv {
 
 namespace {
 
-constexpr std::uint64_t MaxNumber = std::numeric_limits<std::uint16_t>::max();
-
-std::optional<std::uint16_t> ParseNumber(std::string_view text) {
-  const std::optional<std::uint64_t> number = ParseUnsigned(text, MaxNumber);
-  if (!number) {
-    return std::nullopt;
+// The sub-type a suggestion names, as "DPT_Value_Temp (9.001)".
+std::string SuggestionText(const std::string& suggestion) {
+  const std::optional<Nelmo::DptId> id = Nelmo::DptCatalogue::Parse(suggestion);
+  const Nelmo::DptSubtype* subtype = id ? Nelmo::DptCatalogue::Find(id->mainNumber, id->subNumber) : nullptr;
+  if (subtype == nullptr) {
+    return suggestion;
   }
-  return static_cast<std::uint16_t>(*number);
+  KNXDPT dpt;
+  dpt.mainNumber = subtype->mainNumber;
+  dpt.subNumber = subtype->subNumber;
+  return std::string(subtype->name) + " (" + FormatDpt(dpt) + ")";
+}
+
+// "0", and "0.000" as FormatDpt writes it back.
+bool IsNoDpt(std::string_view text) {
+  return text == "0" || text == "0.000";
+}
+
+std::string UnknownDptMessage(std::string_view text) {
+  const std::vector<std::string> suggestions = Nelmo::DptCatalogue::Suggest(text, 1);
+  const std::string start = "unknown DPT '" + std::string(text) + "'";
+  if (suggestions.empty()) {
+    return start + " (write it as 9.001, 9.1, 9, 9.x, DPST-9-1 or a name such as DPT_Value_Temp; 0 for none)";
+  }
+  return start + "; did you mean " + SuggestionText(suggestions.front()) + "?";
 }
 
 }  // namespace
 
 KNXDPT ParseDpt(std::string_view text) {
-  const std::string_view trimmed = Trim(text);
-  const std::size_t dot = trimmed.find('.');
-  const std::string_view mainText = trimmed.substr(0, dot);
-  const std::string_view subText = dot == std::string_view::npos ? std::string_view("x") : trimmed.substr(dot + 1);
-  const std::optional<std::uint16_t> mainNumber = ParseNumber(mainText);
-  const std::optional<std::uint16_t> subNumber =
-      EqualsIgnoringCase(subText, "x") ? std::optional<std::uint16_t>(0) : ParseNumber(subText);
-  if (!mainNumber || !subNumber) {
-    throw InputError("not a DPT: '" + std::string(text) + "' (write it as 9.001, 9.1, 9 or 9.x; 0 for none)");
-  }
   KNXDPT dpt;
-  dpt.mainNumber = *mainNumber;
-  dpt.subNumber = *subNumber;
+  if (IsNoDpt(Trim(text))) {
+    return dpt;
+  }
+  const std::optional<Nelmo::DptId> id = Nelmo::DptCatalogue::Parse(text);
+  if (!id) {
+    throw InputError(UnknownDptMessage(text));
+  }
+  dpt.mainNumber = id->mainNumber;
+  dpt.subNumber = id->subNumber;
   return dpt;
 }
 

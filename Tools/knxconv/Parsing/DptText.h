@@ -7,9 +7,10 @@
 
 namespace Knxconv {
 
-// Reads a DPT as people write it: "9.001", "9.1", "9" and "9.x" (sub number
-// 0). Main number 0 means that no DPT is given. The bit size is left 0.
-// Throws InputError when the text is not a DPT.
+// Reads a DPT in any spelling the catalogue knows ("9.001", "9.1", "9",
+// "9.x", "DPST-9-1", "DPT_Value_Temp", ...); a main type alone has sub number
+// 0. "0" means that no DPT is given. The bit size is left 0. Throws
+// InputError when the text is not a DPT, naming the nearest known one.
 KNXDPT ParseDpt(std::string_view text);
 
 // "9.001": the sub number in three digits, as DPTs are usually written.

@@ -76,10 +76,10 @@ case_monitor_dpt_option() {
   monitor_sees 8
   stop_monitor_cleanly INT
   expect_same monitor "$BUS_DIR/seen" <<'LINES'
-1/2/3      write     9.001    [0C 33]  IVT_DOUBLE    21.5
-1/2/4      write     1.001    [01]  IVT_BOOL      true
-1/2/5      write     5.001    [CC]  IVT_DOUBLE    80
-1/2/7      write     2.000    [03]  IVT_BOOL      true
+1/2/3      write     9.001    [0C 33]  21.5 °C
+1/2/4      write     1.001    [01]  on
+1/2/5      write     5.001    [CC]  80 %
+1/2/7      write     2.000    [03]  control, on
 1/2/9      write     raw      [12 34]
 1/2/3      read      9.001    []
 1/2/3      write     9.001    [0C]  error: the payload 0C has 1 byte, DPT 9.001 needs 2 bytes
@@ -94,12 +94,12 @@ monitor_with_file() {
   monitor_sees 6
   stop_monitor_cleanly
   expect_same monitor "$BUS_DIR/seen" <<LINES
-1/2/3      write     9.001    [0C 33]  IVT_DOUBLE    21.5  (Kitchen temperature)
-1/2/4      write     1.001    [01]  IVT_BOOL      true  (Kitchen light)
-1/2/5      write     5.000    [CC]  IVT_BYTE      204  (Kitchen dimmer)
+1/2/3      write     9.001    [0C 33]  21.5 °C  (Kitchen temperature)
+1/2/4      write     1.001    [01]  on  (Kitchen light)
+1/2/5      write     5.000    [CC]  204  (Kitchen dimmer)
 1/2/6      write     raw      [05]  (Kitchen scene)
-2/0/1      write     1.005    [00]  IVT_BOOL      false  ($2)
-2/0/2      write     9.001    [86 C0]  IVT_DOUBLE    -3.2  (Außentemperatur)
+2/0/1      write     1.005    [00]  no alarm  ($2)
+2/0/2      write     9.001    [86 C0]  -3.2 °C  (Außentemperatur)
 LINES
 }
 
@@ -115,7 +115,7 @@ case_monitor_dpt_before_file() {
   monitor_sees 3
   stop_monitor_cleanly
   expect_same monitor "$BUS_DIR/seen" <<'LINES'
-{"time":T,"source":S,"destination":"1/2/3","name":"Kitchen temperature","service":"write","dpt":"7.001","payload":"0C 33","type":"IVT_UINT16","subtype":"IVST_NONE","value":3123}
+{"time":T,"source":S,"destination":"1/2/3","name":"Kitchen temperature","service":"write","dpt":"7.001","payload":"0C 33","type":"IVT_UINT16","subtype":"IVST_NONE","value":3123,"unit":"pulses","dptName":"DPT_Value_2_Ucount"}
 {"time":T,"source":S,"destination":"2/0/2","name":"Außentemperatur","service":"read","dpt":"9.001","payload":""}
 {"time":T,"source":S,"destination":"1/2/8","service":"write","dpt":null,"payload":"0C 33"}
 LINES
@@ -214,8 +214,8 @@ case_read() {
   wait "$reader" || fail "read answered by groupwrite: exit $?"
   normalise "$BUS_DIR/out" >"$BUS_DIR/seen"
   expect_same read "$BUS_DIR/seen" <<'LINES'
-1/2/4      response  1.001    [01]  IVT_BOOL      true
-1/2/3      write     9.001    [0C 33]  IVT_DOUBLE    21.5  (Kitchen temperature)
+1/2/4      response  1.001    [01]  on
+1/2/3      write     9.001    [0C 33]  21.5 °C  (Kitchen temperature)
 LINES
 }
 
@@ -241,8 +241,8 @@ case_reconnect() {
   monitor_sees 2
   stop_monitor_cleanly
   expect_same monitor "$BUS_DIR/seen" <<'LINES'
-1/2/3      write     9.001    [0C 33]  IVT_DOUBLE    21.5
-1/2/3      write     9.001    [0C 1A]  IVT_DOUBLE    21
+1/2/3      write     9.001    [0C 33]  21.5 °C
+1/2/3      write     9.001    [0C 1A]  21 °C
 LINES
   sed -E 's/(lost the connection to knxd at [^:]*:[^:]*): .*; reconnecting$/\1: REASON; reconnecting/' \
     "$BUS_DIR/monitor.err" >"$BUS_DIR/err"
@@ -305,9 +305,9 @@ case_replay_timing() {
   monitor_sees 3
   stop_monitor_cleanly
   expect_same monitor "$BUS_DIR/seen" <<'LINES'
-1/0/1      write     1.001    [01]  IVT_BOOL      true
-1/0/1      write     1.001    [00]  IVT_BOOL      false
-1/0/1      write     1.001    [01]  IVT_BOOL      true
+1/0/1      write     1.001    [01]  on
+1/0/1      write     1.001    [00]  off
+1/0/1      write     1.001    [01]  on
 LINES
 }
 

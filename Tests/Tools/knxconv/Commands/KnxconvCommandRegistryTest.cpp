@@ -36,7 +36,7 @@ TEST(CommandRegistry, StandardCommandsInTheOrderOfTheHelp) {
   for (const Command& command : registry.Commands()) {
     names += command.name + " ";
   }
-  EXPECT_EQ(names, "encode decode table trace ");
+  EXPECT_EQ(names, "encode decode table dpts dpt trace ");
 }
 
 }  // namespace

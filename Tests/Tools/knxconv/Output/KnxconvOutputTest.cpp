@@ -5,18 +5,14 @@
 #include <string>
 #include <vector>
 
+#include "MakeDpt.h"
 #include "Output.h"
 
 namespace {
 
 using namespace Knxconv;
 
-KNXDPT Dpt(std::uint16_t mainNumber, std::uint16_t subNumber) {
-  KNXDPT dpt;
-  dpt.mainNumber = mainNumber;
-  dpt.subNumber = subNumber;
-  return dpt;
-}
+using TestSupport::MakeDpt;
 
 ULOVALUE Typed(ULOVALUE value, UloValueType type) {
   value.SetType(type);
@@ -61,18 +57,26 @@ INSTANTIATE_TEST_SUITE_P(Values, OutputValueJson, ::testing::ValuesIn(JsonCases)
 TEST(Output, EncodeJsonHasDptBitsAndHex) {
   KnxStack::GroupValue groupValue;
   groupValue.SetAsFloat16(21.5);
-  EXPECT_EQ(JsonLine(EncodeJson(Dpt(9, 1), groupValue)), R"({"dpt":"9.001","bits":16,"hex":"0C 33"})");
+  EXPECT_EQ(JsonLine(EncodeJson(MakeDpt(9, 1), groupValue)), R"({"dpt":"9.001","bits":16,"hex":"0C 33"})");
 }
 
-TEST(Output, DecodeJsonHasDptTypeSubtypeAndValue) {
-  EXPECT_EQ(JsonLine(DecodeJson(Dpt(9, 1), ULOVALUE::Double(21.5), UloDP::IVST_TEMPERATURE)),
-            R"({"dpt":"9.001","type":"IVT_DOUBLE","subtype":"IVST_TEMPERATURE","value":21.5})");
+TEST(Output, DecodeJsonHasDptTypeSubtypeValueNameAndUnit) {
+  TraceResult result;
+  result.dpt = MakeDpt(9, 1);
+  result.value = ULOVALUE::Double(21.5);
+  result.subType = UloDP::IVST_TEMPERATURE;
+  result.bytes = {0x0C, 0x33};
+  EXPECT_EQ(JsonLine(DecodeJson(result)), R"({"dpt":"9.001","type":"IVT_DOUBLE","subtype":"IVST_TEMPERATURE",)"
+                                          R"("value":21.5,"name":"DPT_Value_Temp","unit":"°C"})");
+  EXPECT_EQ(DecodeText(result), "21.5 °C");
 }
 
 TableRow Row(std::uint8_t bits, std::uint16_t mainNumber, std::uint16_t subNumber, const char* label, UloValueType type,
-             const char* converter, std::optional<std::string> range) {
+             const char* converter, std::optional<std::string> range, const char* name = "", const char* unit = "") {
   TableRow row;
-  row.dpt = Dpt(mainNumber, subNumber);
+  row.name = name;
+  row.unit = unit;
+  row.dpt = MakeDpt(mainNumber, subNumber);
   row.dpt.bitSize = bits;
   row.label = label;
   row.valueType = type;
@@ -84,21 +88,26 @@ TableRow Row(std::uint8_t bits, std::uint16_t mainNumber, std::uint16_t subNumbe
 const std::vector<TableRow> Rows = {
     Row(1, 1, 0, "1.x", IVT_BOOL, "KnxConverter1Bit", std::nullopt),
     Row(16, 232, 0, "232.x", IVT_UINT32, "KnxConverterInteger24BitUnsigned", "LongIntegerRange(0, 1, 0, 1)"),
+    Row(16, 9, 1, "9.001", IVT_DOUBLE, "KnxConverterFloat16BitFloat", std::nullopt, "DPT_Value_Temp", "°C"),
 };
 
 TEST(Output, TableTextAlignsTheColumns) {
-  EXPECT_EQ(
-      TableText(Rows),
-      "1.000    1.x    1   IVT_BOOL    IVST_NONE  KnxConverter1Bit                  -\n"
-      "232.000  232.x  16  IVT_UINT32  IVST_NONE  KnxConverterInteger24BitUnsigned  LongIntegerRange(0, 1, 0, 1)\n");
+  EXPECT_EQ(TableText(Rows),
+            "1.000    1.x    -               -   1   IVT_BOOL    IVST_NONE  KnxConverter1Bit                  -\n"
+            "232.000  232.x  -               -   16  IVT_UINT32  IVST_NONE  KnxConverterInteger24BitUnsigned  "
+            "LongIntegerRange(0, 1, 0, 1)\n"
+            "9.001    9.001  DPT_Value_Temp  °C  16  IVT_DOUBLE  IVST_NONE  KnxConverterFloat16BitFloat       -\n");
 }
 
 TEST(Output, TableJsonIsAnArrayOfRows) {
-  EXPECT_EQ(JsonLine(TableJson(Rows)),
-            R"([{"dpt":"1.000","label":"1.x","bits":1,"type":"IVT_BOOL","subtype":"IVST_NONE",)"
-            R"("converter":"KnxConverter1Bit","range":null},)"
-            R"({"dpt":"232.000","label":"232.x","bits":16,"type":"IVT_UINT32","subtype":"IVST_NONE",)"
-            R"json("converter":"KnxConverterInteger24BitUnsigned","range":"LongIntegerRange(0, 1, 0, 1)"}])json");
+  EXPECT_EQ(
+      JsonLine(TableJson(Rows)),
+      R"([{"dpt":"1.000","label":"1.x","name":null,"unit":null,"bits":1,"type":"IVT_BOOL",)"
+      R"("subtype":"IVST_NONE","converter":"KnxConverter1Bit","range":null},)"
+      R"({"dpt":"232.000","label":"232.x","name":null,"unit":null,"bits":16,"type":"IVT_UINT32",)"
+      R"json("subtype":"IVST_NONE","converter":"KnxConverterInteger24BitUnsigned","range":"LongIntegerRange(0, 1, 0, 1)"},)json"
+      R"({"dpt":"9.001","label":"9.001","name":"DPT_Value_Temp","unit":"°C","bits":16,"type":"IVT_DOUBLE",)"
+      R"("subtype":"IVST_NONE","converter":"KnxConverterFloat16BitFloat","range":null}])");
 }
 
 TraceResult Result(const char* dptText, std::optional<KNXDPT> dpt) {
@@ -114,29 +123,32 @@ TraceResult Result(const char* dptText, std::optional<KNXDPT> dpt) {
 }
 
 TEST(Output, TraceLineOfAConvertedTelegram) {
-  TraceResult result = Result("9.1", Dpt(9, 1));
+  TraceResult result = Result("9.1", MakeDpt(9, 1));
   result.converted = true;
   result.value = ULOVALUE::Double(21.499999999999996);
   result.text = "21.5";
   result.subType = UloDP::IVST_TEMPERATURE;
+  result.bytes = {0x0C, 0x33};
   // The text shows the value as the command wrote it, JSON the exact double.
-  EXPECT_EQ(TraceText(result), "07:00:00.000  1.1.10    -> 1/0/1      9.001    IVT_DOUBLE    21.5");
+  EXPECT_EQ(TraceText(result), "07:00:00.000  1.1.10    -> 1/0/1      9.001    0C 33                   21.5 °C");
   EXPECT_EQ(JsonLine(TraceJson(result)),
             R"({"line":7,"time":"07:00:00.000","source":"1.1.10","destination":"1/0/1","dpt":"9.001",)"
-            R"("payload":"0C 33","type":"IVT_DOUBLE","subtype":"IVST_TEMPERATURE","value":21.499999999999996})");
+            R"("payload":"0C 33","type":"IVT_DOUBLE","subtype":"IVST_TEMPERATURE","value":21.499999999999996,)"
+            R"("name":"DPT_Value_Temp","unit":"°C"})");
 }
 
 TEST(Output, TraceLineOfAnEmptyValueEndsWithoutBlanks) {
-  TraceResult result = Result("9.001", Dpt(9, 1));
+  TraceResult result = Result("9.001", MakeDpt(9, 1));
   result.converted = true;
   result.value = Typed(ULOVALUE::Double(std::numeric_limits<double>::quiet_NaN()), IVT_NONE);
-  EXPECT_EQ(TraceText(result), "07:00:00.000  1.1.10    -> 1/0/1      9.001    IVT_NONE");
+  EXPECT_EQ(TraceText(result), "07:00:00.000  1.1.10    -> 1/0/1      9.001    0C 33");
 }
 
 TEST(Output, TraceLineOfARefusedTelegram) {
   TraceResult result = Result("9.x.1", std::nullopt);
   result.error = "not a DPT";
-  EXPECT_EQ(TraceText(result), "07:00:00.000  1.1.10    -> 1/0/1      9.x.1    error: not a DPT");
+  EXPECT_EQ(TraceText(result),
+            "07:00:00.000  1.1.10    -> 1/0/1      9.x.1    0C 33                   error: not a DPT");
   EXPECT_EQ(JsonLine(TraceJson(result)),
             R"({"line":7,"time":"07:00:00.000","source":"1.1.10","destination":"1/0/1","dpt":"9.x.1",)"
             R"("payload":"0C 33","error":"not a DPT"})");
