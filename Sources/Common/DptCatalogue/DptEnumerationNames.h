@@ -50,7 +50,7 @@ inline constexpr DptValueName PowerReturnMode[] = {
 inline constexpr DptValueName FuelType[] = {{0, "auto"}, {1, "oil"}, {2, "gas"}, {3, "solid state fuel"}};
 inline constexpr DptValueName BurnerType[] = {{1, "1 stage"}, {2, "2 stage"}, {3, "modulating"}};
 inline constexpr DptValueName HVACMode[] = {
-    {0, "auto"}, {1, "comfort"}, {2, "standby"}, {3, "economy"}, {4, "building protection"}};
+    {0, "Auto"}, {1, "Comfort"}, {2, "Standby"}, {3, "Economy"}, {4, "Building Protection"}};
 inline constexpr DptValueName DHWMode[] = {
     {0, "auto"}, {1, "legio protect"}, {2, "normal"}, {3, "reduced"}, {4, "off/frost protect"}};
 inline constexpr DptValueName LoadPriority[] = {{0, "none"}, {1, "shift load priority"}, {2, "absolute load priority"}};

@@ -48,7 +48,7 @@ const DisplayCase DisplayCases[] = {
     {1, 8, ULOVALUE::Bool(true), {0x01}, "down", R"({"name":"DPT_UpDown","unit":null,"valueName":"down"})"},
     {1, 1, ULOVALUE::Bool(false), {0x00}, "off", R"({"name":"DPT_Switch","unit":null,"valueName":"off"})"},
     {1, 0, ULOVALUE::Bool(true), {0x01}, "true", R"({"name":null,"unit":null})"},
-    {20, 102, ULOVALUE::Byte(1), {0x01}, "comfort", R"({"name":"DPT_HVACMode","unit":null,"valueName":"comfort"})"},
+    {20, 102, ULOVALUE::Byte(1), {0x01}, "Comfort", R"({"name":"DPT_HVACMode","unit":null,"valueName":"Comfort"})"},
     {20, 102, ULOVALUE::Byte(9), {0x09}, "9", R"({"name":"DPT_HVACMode","unit":null})"},
     {2,
      1,
