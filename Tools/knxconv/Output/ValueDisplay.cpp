@@ -151,6 +151,9 @@ ValueDisplay DisplayValue(const KNXDPT& dpt, const ULOVALUE& value, const std::v
   display.json["name"] = subtype != nullptr ? Json(subtype->name) : Json(nullptr);
   display.json["unit"] = subtype != nullptr && *subtype->unit != '\0' ? Json(subtype->unit) : Json(nullptr);
   if (KindOf(value.GetType()) == ValueKind::NoValue) {
+    // 7F FF and the like: the bus said there is no valid value, and a blank
+    // would read as a line that lost its value.
+    display.text = "no value";
     return display;
   }
   switch (dpt.mainNumber) {

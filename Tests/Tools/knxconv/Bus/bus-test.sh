@@ -279,18 +279,12 @@ LINES
 case_replay() {
   bus_start_knxd && bus_start_monitor --addresses "$ROOT/examples/group-addresses.csv" || exit 1
   "$KNXCONV" replay --url "$(url)" "$ROOT/examples/telegrams.csv" --speed 0 2>"$BUS_DIR/err"
-  [[ $? == 1 ]] || fail "the example's unsendable lines are not exit 1"
+  [[ $? == 1 ]] || fail "the example's malformed line is not exit 1"
   monitor_sees "$(wc -l <"$HERE/replay.expected")"
   stop_monitor_cleanly
   expect_same monitor "$BUS_DIR/seen" <"$HERE/replay.expected"
   expect_same stderr "$BUS_DIR/err" <<'LINES'
-knxconv: line 35: not a group address: '3/8/1' (write it as 1/2/3)
-knxconv: line 36: not a group address: '3/9/1' (write it as 1/2/3)
-knxconv: line 39: not a group address: '3/10/1' (write it as 1/2/3)
-knxconv: line 40: not a group address: '3/11/1' (write it as 1/2/3)
-knxconv: line 41: not a group address: '3/12/1' (write it as 1/2/3)
-knxconv: line 92: not a group address: '9/9/9' (write it as 1/2/3)
-knxconv: line 93: not a group address: '9/9/9' (write it as 1/2/3)
+knxconv: line 93: malformed hex payload '0G 33': 'G' is not a hex digit
 LINES
 }
 
