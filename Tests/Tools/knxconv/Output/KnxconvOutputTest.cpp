@@ -137,11 +137,11 @@ TEST(Output, TraceLineOfAConvertedTelegram) {
             R"("name":"DPT_Value_Temp","unit":"°C"})");
 }
 
-TEST(Output, TraceLineOfAnEmptyValueEndsWithoutBlanks) {
+TEST(Output, TraceLineOfAMissingValueSaysSo) {
   TraceResult result = Result("9.001", MakeDpt(9, 1));
   result.converted = true;
   result.value = Typed(ULOVALUE::Double(std::numeric_limits<double>::quiet_NaN()), IVT_NONE);
-  EXPECT_EQ(TraceText(result), "07:00:00.000  1.1.10    -> 1/0/1      9.001    0C 33");
+  EXPECT_EQ(TraceText(result), "07:00:00.000  1.1.10    -> 1/0/1      9.001    0C 33                   no value");
 }
 
 TEST(Output, TraceLineOfARefusedTelegram) {
