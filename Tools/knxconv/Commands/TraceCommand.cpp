@@ -4,7 +4,7 @@
 #include <fstream>
 
 #include "Conversion.h"
-#include "DptText.h"
+#include "DptCache.h"
 #include "InputError.h"
 #include "StandardCommands.h"
 #include "TraceReader.h"
@@ -21,7 +21,7 @@ constexpr const char* FileHelp =
     "                      (its line says why), 2 when the trace cannot be read or is not\n"
     "                      a trace, or the output cannot be written";
 
-TraceResult DecodeTelegram(const Nelmo::KnxValueConverter& converter, OutputContext& context,
+TraceResult DecodeTelegram(const Nelmo::KnxValueConverter& converter, DptCache& dpts, OutputContext& context,
                            const Telegram& telegram) {
   TraceResult result;
   result.telegram = telegram;
@@ -30,7 +30,7 @@ TraceResult DecodeTelegram(const Nelmo::KnxValueConverter& converter, OutputCont
     return result;
   }
   try {
-    result.dpt = ParseDpt(telegram.dpt);
+    result.dpt = dpts.Parse(telegram.dpt);
     context.TakeLogErrors();
     Decode(converter, telegram.payload, 0, result);
     if (!result.converted && result.error.empty()) {
@@ -71,11 +71,12 @@ int RunTrace(const Arguments& arguments, OutputContext& context) {
   std::istream& source = name == StandardInput ? context.In() : file;
   TraceReader reader(source);
   const Nelmo::KnxValueConverter converter;
+  DptCache dpts;
   bool allConverted = true;
   Telegram telegram;
   // Reading stops where the output cannot be written.
   while (!context.OutputFailed() && reader.Next(telegram)) {
-    const TraceResult result = DecodeTelegram(converter, context, telegram);
+    const TraceResult result = DecodeTelegram(converter, dpts, context, telegram);
     allConverted = allConverted && result.converted;
     // Only the form that is printed is built: this runs once per telegram.
     if (context.IsJson()) {
