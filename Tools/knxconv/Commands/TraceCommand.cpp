@@ -74,13 +74,15 @@ int RunTrace(const Arguments& arguments, OutputContext& context) {
   DptCache dpts;
   bool allConverted = true;
   Telegram telegram;
+  std::string line;
   // Reading stops where the output cannot be written.
   while (!context.OutputFailed() && reader.Next(telegram)) {
     const TraceResult result = DecodeTelegram(converter, dpts, context, telegram);
     allConverted = allConverted && result.converted;
     // Only the form that is printed is built: this runs once per telegram.
     if (context.IsJson()) {
-      context.PrintJson(TraceJson(result));
+      TraceJson(result, line);
+      context.PrintJsonLine(line);
     } else {
       context.PrintLine(TraceText(result));
     }

@@ -9,6 +9,7 @@
 #include "CatalogueInput.h"
 #include "ConverterInfo.h"
 #include "DptText.h"
+#include "JsonWriter.h"
 #include "TextEscape.h"
 #include "ValueDisplay.h"
 #include "ValueText.h"
@@ -226,24 +227,24 @@ std::string TraceText(const TraceResult& result) {
   return text;
 }
 
-Json TraceJson(const TraceResult& result) {
+void TraceJson(const TraceResult& result, std::string& line) {
   const Telegram& telegram = result.telegram;
-  Json json;
-  json["line"] = telegram.lineNumber;
-  json["time"] = telegram.time;
-  json["source"] = telegram.source;
-  json["destination"] = telegram.destination;
-  json["dpt"] = TraceDpt(result);
-  json["payload"] = telegram.payload;
+  JsonObjectWriter json(line);
+  json.Unsigned("line", telegram.lineNumber);
+  json.String("time", telegram.time);
+  json.String("source", telegram.source);
+  json.String("destination", telegram.destination);
+  json.String("dpt", TraceDpt(result));
+  json.String("payload", telegram.payload);
   if (!result.converted) {
-    json["error"] = result.error;
-    return json;
+    json.String("error", result.error);
+  } else {
+    json.String("type", ValueTypeText(result.value.GetType()));
+    json.String("subtype", ValueSubTypeText(result.subType));
+    json.Value("value", ValueJson(result.value));
+    json.Members(Display(result).json);
   }
-  json["type"] = ValueTypeText(result.value.GetType());
-  json["subtype"] = ValueSubTypeText(result.subType);
-  json["value"] = ValueJson(result.value);
-  json.update(Display(result).json);
-  return json;
+  json.Close();
 }
 
 }  // namespace Knxconv

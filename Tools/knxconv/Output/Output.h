@@ -78,6 +78,7 @@ Json DisplayJson(const TraceResult& result);
 
 // "time  source -> destination  dpt  payload  value", or "... error: why".
 std::string TraceText(const TraceResult& result);
-Json TraceJson(const TraceResult& result);
+// The same as one line of JSON, written over line.
+void TraceJson(const TraceResult& result, std::string& line);
 
 }  // namespace Knxconv

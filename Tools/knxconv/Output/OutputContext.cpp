@@ -29,6 +29,10 @@ void OutputContext::PrintJson(const Json& json) {
   WriteLine(JsonLine(json));
 }
 
+void OutputContext::PrintJsonLine(const std::string& line) {
+  WriteLine(line);
+}
+
 void OutputContext::PrintText(std::string_view text) {
   while (!text.empty()) {
     const std::size_t end = text.find('\n');

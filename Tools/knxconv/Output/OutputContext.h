@@ -42,6 +42,8 @@ class OutputContext {
   // One result line: text escaped, or a JSON value on one line.
   void PrintLine(std::string_view text);
   void PrintJson(const Json& json);
+  // A line that is JSON already, as JsonLine writes it.
+  void PrintJsonLine(const std::string& line);
   // Several lines of text, each escaped.
   void PrintText(std::string_view text);
   // Prints text or JSON as the mode asks.
