@@ -1,5 +1,7 @@
 #include "JsonWriter.h"
 
+#include <algorithm>
+
 namespace Knxconv {
 
 namespace {
@@ -7,12 +9,8 @@ namespace {
 // Printable ASCII but the quote and the backslash: such a text is its own
 // JSON form.
 bool IsPlain(std::string_view text) {
-  for (const char c : text) {
-    if (c < ' ' || c > '~' || c == '"' || c == '\\') {
-      return false;
-    }
-  }
-  return true;
+  return std::all_of(text.begin(), text.end(),
+                     [](const char c) { return c >= ' ' && c <= '~' && c != '"' && c != '\\'; });
 }
 
 }  // namespace
