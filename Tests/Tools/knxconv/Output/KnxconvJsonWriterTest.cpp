@@ -45,15 +45,4 @@ TEST(JsonObjectWriter, WritesEachValueAsJsonLine) {
   }
 }
 
-TEST(JsonObjectWriter, ContinuesAnObjectWithMembers) {
-  std::string line;
-  JsonObjectWriter head(line);
-  head.Unsigned("line", 7);
-  head.String("time", "07:00");
-  JsonObjectWriter tail(line, JsonObjectWriter::Continue);
-  tail.Members(Json{{"name", "DPT_Switch"}, {"unit", nullptr}});
-  tail.Close();
-  EXPECT_EQ(line, R"({"line":7,"time":"07:00","name":"DPT_Switch","unit":null})");
-}
-
 }  // namespace
