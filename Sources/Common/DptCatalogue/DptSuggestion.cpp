@@ -35,6 +35,14 @@ std::size_t EditDistance(std::string_view left, std::string_view right) {
   return previous[right.size()];
 }
 
+// The distance is at least the difference in length, so a text far longer
+// or shorter than a candidate needs no table of distances: a long line of
+// garbage costs a comparison of sizes per candidate, not a quadratic walk.
+std::size_t BoundedDistance(std::string_view left, std::string_view right, std::size_t limit) {
+  const std::size_t difference = left.size() > right.size() ? left.size() - right.size() : right.size() - left.size();
+  return difference > limit ? difference : EditDistance(left, right);
+}
+
 // The number written the way the user started to write it: "DPST-9-1" after
 // an ETS prefix, "9.001" otherwise.
 std::string NumberText(const DptSubtype& row, std::string_view dashedPrefix) {
@@ -79,12 +87,12 @@ std::vector<std::string> DptCatalogue::Suggest(std::string_view text, std::size_
   const std::size_t limit = std::max<std::size_t>(2, text.size() / 3);
   std::vector<Candidate> candidates;
   for (const DptSubtype& row : All()) {
-    const std::size_t nameDistance = EditDistance(text, row.name);
+    const std::size_t nameDistance = BoundedDistance(text, row.name, limit);
     if (nameDistance <= limit) {
       candidates.push_back(Candidate{nameDistance, row.name});
     }
     std::string number = NumberText(row, dashedPrefix);
-    const std::size_t numberDistance = EditDistance(numberPart, number);
+    const std::size_t numberDistance = BoundedDistance(numberPart, number, limit);
     if (numberDistance <= limit) {
       candidates.push_back(Candidate{numberDistance, std::move(number)});
     }

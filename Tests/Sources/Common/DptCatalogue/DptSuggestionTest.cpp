@@ -39,6 +39,14 @@ TEST(DptSuggestion, OffersTheNearestKnownNamesAndNumbers) {
   }
 }
 
+// A line of garbage as long as a fuzzer or a broken trace hands over: no
+// name is near it, and the answer comes without a table per candidate.
+TEST(DptSuggestion, OffersNothingForATextFarLongerThanAnyName) {
+  EXPECT_EQ(DptCatalogue::Suggest(std::string(100000, 'x') + "DPT_Value_Temp"), std::vector<std::string>{});
+  EXPECT_EQ(DptCatalogue::Suggest(std::string(40, ' ') + "DPT_Value_Tmp" + std::string(40, ' '), 1),
+            std::vector<std::string>{"DPT_Value_Temp"});
+}
+
 TEST(DptSuggestion, OffersThreeByDefault) {
   EXPECT_EQ(DptCatalogue::Suggest("9.0001").size(), 3u);
 }
