@@ -22,12 +22,13 @@ constexpr unsigned char ValueBit = 0x01;
 // ---------------------------------------------------------------------------
 
 bool KnxConverter1Bit::ToKnxValue(const KNXDPT& dpt, const ULOVALUE& value, KnxStack::GroupValue& groupValue) {
-  Log::TraceToKnx(dpt, value, __LINE__);
-  if (dpt.mainNumber != SwitchMainNumber || value.GetType() != IVT_BOOL) {
-    return false;
-  }
-  groupValue.SetAsBoolean(value.GetBool());
-  return true;
+  return Log::TracedToKnx(dpt, value, __LINE__, [&dpt, &value, &groupValue] {
+    if (dpt.mainNumber != SwitchMainNumber || value.GetType() != IVT_BOOL) {
+      return false;
+    }
+    groupValue.SetAsBoolean(value.GetBool());
+    return true;
+  });
 }
 
 bool KnxConverter1Bit::FromKnxValue(const KNXDPT& dpt, const KnxStack::GroupValue& groupValue, ULOVALUE& value) {
