@@ -79,6 +79,21 @@ inline bool TracedToKnx(const KNXDPT& dpt, const ULOVALUE& value, int line, Conv
   return convert();
 }
 
+template <typename Convert>
+[[gnu::cold, gnu::noinline]] bool TraceThenFromKnx(const KNXDPT& dpt, const KnxStack::GroupValue& groupValue, int line,
+                                                   Convert convert) {
+  TraceFromKnx(dpt, groupValue, line);
+  return convert();
+}
+
+template <typename Convert>
+inline bool TracedFromKnx(const KNXDPT& dpt, const KnxStack::GroupValue& groupValue, int line, Convert convert) {
+  if (UloLogDetail::MayBeActive(ULO_LOG_TRACE)) {
+    return TraceThenFromKnx(dpt, groupValue, line, convert);
+  }
+  return convert();
+}
+
 // Level-1 notice that a value was clamped into its range before sending.
 // Before and After are streamed as given, so the caller picks the number form.
 template <typename Before, typename After>
