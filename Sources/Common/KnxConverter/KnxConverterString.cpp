@@ -90,35 +90,33 @@ KnxConverter8BitString::KnxConverter8BitString(const IntegerRange& range) : m_ra
 KnxConverter8BitString::~KnxConverter8BitString() = default;
 
 bool KnxConverter8BitString::ToKnxValue(const KNXDPT& dpt, const ULOVALUE& value, KnxStack::GroupValue& groupValue) {
-  return Log::TracedToKnx(dpt, value, __LINE__, [&] {
-    if (dpt.mainNumber != CharacterMainNumber || value.GetType() != IVT_STRING) {
-      return false;
-    }
-    // Only the first character travels; an empty text sends 0.
-    const char* cursor = value.GetString().c_str();
-    const unsigned char character = *cursor == '\0' ? 0 : SingleByte(cursor);
-    if (!m_range.IsInRange(character)) {
-      return false;
-    }
-    groupValue.SetAsUnsigned8(character);
-    return true;
-  });
+  Log::TraceToKnx(dpt, value, __LINE__);
+  if (dpt.mainNumber != CharacterMainNumber || value.GetType() != IVT_STRING) {
+    return false;
+  }
+  // Only the first character travels; an empty text sends 0.
+  const char* cursor = value.GetString().c_str();
+  const unsigned char character = *cursor == '\0' ? 0 : SingleByte(cursor);
+  if (!m_range.IsInRange(character)) {
+    return false;
+  }
+  groupValue.SetAsUnsigned8(character);
+  return true;
 }
 
 bool KnxConverter8BitString::FromKnxValue(const KNXDPT& dpt, const KnxStack::GroupValue& groupValue, ULOVALUE& value) {
-  return Log::TracedFromKnx(dpt, groupValue, __LINE__, [&] {
-    if (dpt.mainNumber != CharacterMainNumber) {
-      return false;
-    }
-    const unsigned char character = groupValue.GetAsUnsigned8();
-    if (!m_range.IsInRange(character)) {
-      return false;
-    }
-    // The character 0 is the empty text.
-    const char text[] = {static_cast<char>(character), '\0'};
-    value.SetString(CodingUtf8::Iso88591ToUtf8(text));
-    return true;
-  });
+  Log::TraceFromKnx(dpt, groupValue, __LINE__);
+  if (dpt.mainNumber != CharacterMainNumber) {
+    return false;
+  }
+  const unsigned char character = groupValue.GetAsUnsigned8();
+  if (!m_range.IsInRange(character)) {
+    return false;
+  }
+  // The character 0 is the empty text.
+  const char text[] = {static_cast<char>(character), '\0'};
+  value.SetString(CodingUtf8::Iso88591ToUtf8(text));
+  return true;
 }
 
 KnxConverter* KnxConverter8BitString::Clone() const {
@@ -131,19 +129,17 @@ KnxConverter14ByteString::KnxConverter14ByteString(const IntegerRange& range) : 
 KnxConverter14ByteString::~KnxConverter14ByteString() = default;
 
 bool KnxConverter14ByteString::ToKnxValue(const KNXDPT& dpt, const ULOVALUE& value, KnxStack::GroupValue& groupValue) {
-  return Log::TracedToKnx(dpt, value, __LINE__, [&] {
-    // The stack cuts to 14 bytes and pads with zeros.
-    groupValue.SetAsString14(ToString14(CharacterSet(m_range), value.GetString()));
-    return true;
-  });
+  Log::TraceToKnx(dpt, value, __LINE__);
+  // The stack cuts to 14 bytes and pads with zeros.
+  groupValue.SetAsString14(ToString14(CharacterSet(m_range), value.GetString()));
+  return true;
 }
 
 bool KnxConverter14ByteString::FromKnxValue(const KNXDPT& dpt, const KnxStack::GroupValue& groupValue,
                                             ULOVALUE& value) {
-  return Log::TracedFromKnx(dpt, groupValue, __LINE__, [&] {
-    value.SetString(FromString14(CharacterSet(m_range), groupValue.GetAsString14()));
-    return true;
-  });
+  Log::TraceFromKnx(dpt, groupValue, __LINE__);
+  value.SetString(FromString14(CharacterSet(m_range), groupValue.GetAsString14()));
+  return true;
 }
 
 KnxConverter* KnxConverter14ByteString::Clone() const {
