@@ -17,6 +17,12 @@ namespace UloLogDetail {
 // load and a compare here rather than a call into the library.
 extern std::atomic<int> checkedThreshold;
 bool IsActiveOnFirstUse(UloLogLevel level);
+// False only where the level is certainly off; true also before the first
+// read, so a hot caller pays one load and leaves the exact answer to its
+// cold path.
+inline bool MayBeActive(UloLogLevel level) {
+  return static_cast<int>(level) >= checkedThreshold.load(std::memory_order_relaxed);
+}
 }  // namespace UloLogDetail
 
 // Whether messages of this level are written (level >= threshold).

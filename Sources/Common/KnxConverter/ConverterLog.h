@@ -23,6 +23,9 @@ inline constexpr std::string_view FacadeFile = "KnxValueConverter";
 template <typename Compose>
 [[gnu::cold, gnu::noinline]] void WriteActive(UloLogLevel level, std::string_view file, std::string_view function,
                                               int line, Compose& compose) {
+  if (!UloLoggingStateIsActive(level)) {
+    return;
+  }
   std::ostringstream text;
   compose(text);
   UloLog(level, file, function, text.str(), line);
@@ -31,7 +34,7 @@ template <typename Compose>
 // compose(std::ostream&) writes the text; called only when level is active.
 template <typename Compose>
 inline void Write(UloLogLevel level, std::string_view file, std::string_view function, int line, Compose&& compose) {
-  if (UloLoggingStateIsActive(level)) {
+  if (UloLogDetail::MayBeActive(level)) {
     WriteActive(level, file, function, line, compose);
   }
 }
@@ -58,6 +61,37 @@ inline void TraceFromKnx(const KNXDPT& dpt, const KnxStack::GroupValue& groupVal
     out << "DPT is used. DPT = " << Dpt{dpt} << " grp.size=" << groupValue.GetDefinedSize()
         << " grp.val=" << groupValue.GetRawData().ToString();
   });
+}
+
+// The trace of a conversion, then the conversion. The cold path converts
+// after writing, so the hot one keeps nothing across a call for the trace.
+template <typename Convert>
+[[gnu::cold, gnu::noinline]] bool TraceThenToKnx(const KNXDPT& dpt, const ULOVALUE& value, int line, Convert convert) {
+  TraceToKnx(dpt, value, line);
+  return convert();
+}
+
+template <typename Convert>
+inline bool TracedToKnx(const KNXDPT& dpt, const ULOVALUE& value, int line, Convert convert) {
+  if (UloLogDetail::MayBeActive(ULO_LOG_TRACE)) {
+    return TraceThenToKnx(dpt, value, line, convert);
+  }
+  return convert();
+}
+
+template <typename Convert>
+[[gnu::cold, gnu::noinline]] bool TraceThenFromKnx(const KNXDPT& dpt, const KnxStack::GroupValue& groupValue, int line,
+                                                   Convert convert) {
+  TraceFromKnx(dpt, groupValue, line);
+  return convert();
+}
+
+template <typename Convert>
+inline bool TracedFromKnx(const KNXDPT& dpt, const KnxStack::GroupValue& groupValue, int line, Convert convert) {
+  if (UloLogDetail::MayBeActive(ULO_LOG_TRACE)) {
+    return TraceThenFromKnx(dpt, groupValue, line, convert);
+  }
+  return convert();
 }
 
 // Level-1 notice that a value was clamped into its range before sending.

@@ -22,12 +22,13 @@ constexpr unsigned char ValueBit = 0x01;
 // ---------------------------------------------------------------------------
 
 bool KnxConverter1Bit::ToKnxValue(const KNXDPT& dpt, const ULOVALUE& value, KnxStack::GroupValue& groupValue) {
-  Log::TraceToKnx(dpt, value, __LINE__);
-  if (dpt.mainNumber != SwitchMainNumber || value.GetType() != IVT_BOOL) {
-    return false;
-  }
-  groupValue.SetAsBoolean(value.GetBool());
-  return true;
+  return Log::TracedToKnx(dpt, value, __LINE__, [&dpt, &value, &groupValue] {
+    if (dpt.mainNumber != SwitchMainNumber || value.GetType() != IVT_BOOL) {
+      return false;
+    }
+    groupValue.SetAsBoolean(value.GetBool());
+    return true;
+  });
 }
 
 bool KnxConverter1Bit::FromKnxValue(const KNXDPT& dpt, const KnxStack::GroupValue& groupValue, ULOVALUE& value) {
@@ -45,12 +46,13 @@ KnxConverter* KnxConverter1Bit::Clone() const {
 // ---------------------------------------------------------------------------
 
 bool KnxConverter2Bit::ToKnxValue(const KNXDPT& dpt, const ULOVALUE& value, KnxStack::GroupValue& groupValue) {
-  Log::TraceToKnx(dpt, value, __LINE__);
-  if (dpt.mainNumber != ControlledMainNumber || value.GetType() != IVT_BOOL) {
-    return false;
-  }
-  groupValue.SetAsUnsigned2(value.GetBool() ? ControlBit | ValueBit : ControlBit);
-  return true;
+  return Log::TracedToKnx(dpt, value, __LINE__, [&] {
+    if (dpt.mainNumber != ControlledMainNumber || value.GetType() != IVT_BOOL) {
+      return false;
+    }
+    groupValue.SetAsUnsigned2(value.GetBool() ? ControlBit | ValueBit : ControlBit);
+    return true;
+  });
 }
 
 bool KnxConverter2Bit::FromKnxValue(const KNXDPT& dpt, const KnxStack::GroupValue& groupValue, ULOVALUE& value) {
@@ -69,26 +71,28 @@ KnxConverter* KnxConverter2Bit::Clone() const {
 // ---------------------------------------------------------------------------
 
 bool KnxConverter4Bit::ToKnxValue(const KNXDPT& dpt, const ULOVALUE& value, KnxStack::GroupValue& groupValue) {
-  Log::TraceToKnx(dpt, value, __LINE__);
-  if (dpt.mainNumber != StepMainNumber || value.GetType() != IVT_DOUBLE) {
-    return false;
-  }
-  const double original = value.GetDouble();
-  double fitted = original;
-  if (!m_range.FitToRange(fitted)) {
-    Log::Adjusted(dpt, value.GetType(), original, fitted, __LINE__);
-  }
-  groupValue.SetAsUnsigned4(GetRelScalingAsByte(fitted));
-  return true;
+  return Log::TracedToKnx(dpt, value, __LINE__, [&] {
+    if (dpt.mainNumber != StepMainNumber || value.GetType() != IVT_DOUBLE) {
+      return false;
+    }
+    const double original = value.GetDouble();
+    double fitted = original;
+    if (!m_range.FitToRange(fitted)) {
+      Log::Adjusted(dpt, value.GetType(), original, fitted, __LINE__);
+    }
+    groupValue.SetAsUnsigned4(GetRelScalingAsByte(fitted));
+    return true;
+  });
 }
 
 bool KnxConverter4Bit::FromKnxValue(const KNXDPT& dpt, const KnxStack::GroupValue& groupValue, ULOVALUE& value) {
-  Log::TraceFromKnx(dpt, groupValue, __LINE__);
-  if (dpt.mainNumber != StepMainNumber) {
-    return false;
-  }
-  value.SetDouble(GetRelScalingFromByte(groupValue.GetAsUnsigned4()));
-  return true;
+  return Log::TracedFromKnx(dpt, groupValue, __LINE__, [&] {
+    if (dpt.mainNumber != StepMainNumber) {
+      return false;
+    }
+    value.SetDouble(GetRelScalingFromByte(groupValue.GetAsUnsigned4()));
+    return true;
+  });
 }
 
 KnxConverter* KnxConverter4Bit::Clone() const {

@@ -99,20 +99,22 @@ KnxConverterFloat8BitUnsigned::~KnxConverterFloat8BitUnsigned() = default;
 
 bool KnxConverterFloat8BitUnsigned::ToKnxValue(const KNXDPT& dpt, const ULOVALUE& value,
                                                KnxStack::GroupValue& groupValue) {
-  Log::TraceToKnx(dpt, value, __LINE__);
-  if (value.GetType() != IVT_DOUBLE) {
-    return false;
-  }
-  return SendScaled(m_range, dpt, value, groupValue, &KnxStack::GroupValue::SetAsUnsigned8);
+  return Log::TracedToKnx(dpt, value, __LINE__, [&] {
+    if (value.GetType() != IVT_DOUBLE) {
+      return false;
+    }
+    return SendScaled(m_range, dpt, value, groupValue, &KnxStack::GroupValue::SetAsUnsigned8);
+  });
 }
 
 bool KnxConverterFloat8BitUnsigned::FromKnxValue(const KNXDPT& dpt, const KnxStack::GroupValue& groupValue,
                                                  ULOVALUE& value) {
-  Log::TraceFromKnx(dpt, groupValue, __LINE__);
-  double received = ReceiveScaled(m_range, groupValue, &KnxStack::GroupValue::GetAsUnsigned8);
-  m_range.FitToRange(received);
-  value.SetDouble(received);
-  return true;
+  return Log::TracedFromKnx(dpt, groupValue, __LINE__, [&] {
+    double received = ReceiveScaled(m_range, groupValue, &KnxStack::GroupValue::GetAsUnsigned8);
+    m_range.FitToRange(received);
+    value.SetDouble(received);
+    return true;
+  });
 }
 
 KnxConverter* KnxConverterFloat8BitUnsigned::Clone() const {
@@ -126,15 +128,17 @@ KnxConverterFloat8BitSigned::~KnxConverterFloat8BitSigned() = default;
 
 bool KnxConverterFloat8BitSigned::ToKnxValue(const KNXDPT& dpt, const ULOVALUE& value,
                                              KnxStack::GroupValue& groupValue) {
-  Log::TraceToKnx(dpt, value, __LINE__);
-  return SendScaled(m_range, dpt, value, groupValue, &KnxStack::GroupValue::SetAsSigned8);
+  return Log::TracedToKnx(dpt, value, __LINE__, [&] {
+    return SendScaled(m_range, dpt, value, groupValue, &KnxStack::GroupValue::SetAsSigned8);
+  });
 }
 
 bool KnxConverterFloat8BitSigned::FromKnxValue(const KNXDPT& dpt, const KnxStack::GroupValue& groupValue,
                                                ULOVALUE& value) {
-  Log::TraceFromKnx(dpt, groupValue, __LINE__);
-  value.SetDouble(ReceiveScaled(m_range, groupValue, &KnxStack::GroupValue::GetAsSigned8));
-  return true;
+  return Log::TracedFromKnx(dpt, groupValue, __LINE__, [&] {
+    value.SetDouble(ReceiveScaled(m_range, groupValue, &KnxStack::GroupValue::GetAsSigned8));
+    return true;
+  });
 }
 
 KnxConverter* KnxConverterFloat8BitSigned::Clone() const {
@@ -148,15 +152,17 @@ KnxConverterFloat16BitSigned::~KnxConverterFloat16BitSigned() = default;
 
 bool KnxConverterFloat16BitSigned::ToKnxValue(const KNXDPT& dpt, const ULOVALUE& value,
                                               KnxStack::GroupValue& groupValue) {
-  Log::TraceToKnx(dpt, value, __LINE__);
-  return SendScaled(m_range, dpt, value, groupValue, &KnxStack::GroupValue::SetAsSigned16);
+  return Log::TracedToKnx(dpt, value, __LINE__, [&] {
+    return SendScaled(m_range, dpt, value, groupValue, &KnxStack::GroupValue::SetAsSigned16);
+  });
 }
 
 bool KnxConverterFloat16BitSigned::FromKnxValue(const KNXDPT& dpt, const KnxStack::GroupValue& groupValue,
                                                 ULOVALUE& value) {
-  Log::TraceFromKnx(dpt, groupValue, __LINE__);
-  value.SetDouble(ReceiveScaled(m_range, groupValue, &KnxStack::GroupValue::GetAsSigned16));
-  return true;
+  return Log::TracedFromKnx(dpt, groupValue, __LINE__, [&] {
+    value.SetDouble(ReceiveScaled(m_range, groupValue, &KnxStack::GroupValue::GetAsSigned16));
+    return true;
+  });
 }
 
 KnxConverter* KnxConverterFloat16BitSigned::Clone() const {
@@ -170,20 +176,22 @@ KnxConverterFloat16BitFloat::~KnxConverterFloat16BitFloat() = default;
 
 bool KnxConverterFloat16BitFloat::ToKnxValue(const KNXDPT& dpt, const ULOVALUE& value,
                                              KnxStack::GroupValue& groupValue) {
-  Log::TraceToKnx(dpt, value, __LINE__);
-  if (value.GetType() == IVT_NONE) {
-    groupValue.SetAsFloat16(QuietNaN16());
+  return Log::TracedToKnx(dpt, value, __LINE__, [&] {
+    if (value.GetType() == IVT_NONE) {
+      groupValue.SetAsFloat16(QuietNaN16());
+      return true;
+    }
+    groupValue.SetAsFloat16(Fitted(m_range, dpt, value));
     return true;
-  }
-  groupValue.SetAsFloat16(Fitted(m_range, dpt, value));
-  return true;
+  });
 }
 
 bool KnxConverterFloat16BitFloat::FromKnxValue(const KNXDPT& dpt, const KnxStack::GroupValue& groupValue,
                                                ULOVALUE& value) {
-  Log::TraceFromKnx(dpt, groupValue, __LINE__);
-  StoreFloat(m_range.ScaleFrom(groupValue.GetAsFloat16()), value);
-  return true;
+  return Log::TracedFromKnx(dpt, groupValue, __LINE__, [&] {
+    StoreFloat(m_range.ScaleFrom(groupValue.GetAsFloat16()), value);
+    return true;
+  });
 }
 
 KnxConverter* KnxConverterFloat16BitFloat::Clone() const {
@@ -197,20 +205,22 @@ KnxConverterFloat32BitFloat::~KnxConverterFloat32BitFloat() = default;
 
 bool KnxConverterFloat32BitFloat::ToKnxValue(const KNXDPT& dpt, const ULOVALUE& value,
                                              KnxStack::GroupValue& groupValue) {
-  Log::TraceToKnx(dpt, value, __LINE__);
-  if (value.GetType() == IVT_NONE) {
-    groupValue.SetAsFloat32(QuietNaN32());
+  return Log::TracedToKnx(dpt, value, __LINE__, [&] {
+    if (value.GetType() == IVT_NONE) {
+      groupValue.SetAsFloat32(QuietNaN32());
+      return true;
+    }
+    groupValue.SetAsFloat32(ToSingle(Fitted(m_range, dpt, value)));
     return true;
-  }
-  groupValue.SetAsFloat32(ToSingle(Fitted(m_range, dpt, value)));
-  return true;
+  });
 }
 
 bool KnxConverterFloat32BitFloat::FromKnxValue(const KNXDPT& dpt, const KnxStack::GroupValue& groupValue,
                                                ULOVALUE& value) {
-  Log::TraceFromKnx(dpt, groupValue, __LINE__);
-  StoreFloat(groupValue.GetAsFloat32(), value);
-  return true;
+  return Log::TracedFromKnx(dpt, groupValue, __LINE__, [&] {
+    StoreFloat(groupValue.GetAsFloat32(), value);
+    return true;
+  });
 }
 
 KnxConverter* KnxConverterFloat32BitFloat::Clone() const {

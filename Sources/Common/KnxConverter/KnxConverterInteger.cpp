@@ -144,23 +144,25 @@ Number ScaledFrom(const Range& range, Number value) {
 template <typename Format>
 bool IntegerToKnx(const typename Format::Range& range, const KNXDPT& dpt, const ULOVALUE& value,
                   KnxStack::GroupValue& groupValue) {
-  Log::TraceToKnx(dpt, value, __LINE__);
-  const typename Format::Number original = Format::Load(value);
-  typename Format::Number fitted = original;
-  if (!Fit(range, fitted)) {
-    Log::Adjusted(dpt, value.GetType(), Format::ShownBefore(original), Format::ShownAfter(fitted), __LINE__);
-  }
-  Format::Send(groupValue, ScaledTo(range, fitted));
-  return true;
+  return Log::TracedToKnx(dpt, value, __LINE__, [&] {
+    const typename Format::Number original = Format::Load(value);
+    typename Format::Number fitted = original;
+    if (!Fit(range, fitted)) {
+      Log::Adjusted(dpt, value.GetType(), Format::ShownBefore(original), Format::ShownAfter(fitted), __LINE__);
+    }
+    Format::Send(groupValue, ScaledTo(range, fitted));
+    return true;
+  });
 }
 
 // Read the bus field and scale it back; no clamping on the way in.
 template <typename Format>
 bool IntegerFromKnx(const typename Format::Range& range, const KNXDPT& dpt, const KnxStack::GroupValue& groupValue,
                     ULOVALUE& value) {
-  Log::TraceFromKnx(dpt, groupValue, __LINE__);
-  Format::Store(value, ScaledFrom(range, static_cast<typename Format::Number>(Format::Receive(groupValue))));
-  return true;
+  return Log::TracedFromKnx(dpt, groupValue, __LINE__, [&] {
+    Format::Store(value, ScaledFrom(range, static_cast<typename Format::Number>(Format::Receive(groupValue))));
+    return true;
+  });
 }
 
 }  // namespace
@@ -169,22 +171,24 @@ bool IntegerFromKnx(const typename Format::Range& range, const KNXDPT& dpt, cons
 
 bool KnxConverterByte8BitUnsigned::ToKnxValue(const KNXDPT& dpt, const ULOVALUE& value,
                                               KnxStack::GroupValue& groupValue) {
-  Log::TraceToKnx(dpt, value, __LINE__);
-  if (value.GetType() != IVT_BYTE) {
-    return false;
-  }
-  groupValue.SetAsUnsigned8(value.GetByte());
-  return true;
+  return Log::TracedToKnx(dpt, value, __LINE__, [&] {
+    if (value.GetType() != IVT_BYTE) {
+      return false;
+    }
+    groupValue.SetAsUnsigned8(value.GetByte());
+    return true;
+  });
 }
 
 bool KnxConverterByte8BitUnsigned::FromKnxValue(const KNXDPT& dpt, const KnxStack::GroupValue& groupValue,
                                                 ULOVALUE& value) {
-  Log::TraceFromKnx(dpt, groupValue, __LINE__);
-  if (value.GetType() != IVT_BYTE) {
-    return false;
-  }
-  value.SetByte(groupValue.GetAsUnsigned8());
-  return true;
+  return Log::TracedFromKnx(dpt, groupValue, __LINE__, [&] {
+    if (value.GetType() != IVT_BYTE) {
+      return false;
+    }
+    value.SetByte(groupValue.GetAsUnsigned8());
+    return true;
+  });
 }
 
 KnxConverter* KnxConverterByte8BitUnsigned::Clone() const {
@@ -296,24 +300,25 @@ bool KnxConverterInteger48BitUnsigned::ToKnxValue(const KNXDPT& dpt, const ULOVA
 
 bool KnxConverterInteger48BitUnsigned::FromKnxValue(const KNXDPT& dpt, const KnxStack::GroupValue& groupValue,
                                                     ULOVALUE& value) {
-  Log::TraceFromKnx(dpt, groupValue, __LINE__);
-  const KnxStack::BinaryData& data = groupValue.GetRawData();
-  if (groupValue.GetDefinedSize() != Unsigned48Bits) {
-    Log::Write(ULO_LOG_ERROR, Log::ConverterFile, "FromKnxValue", __LINE__, [&](std::ostream& out) {
-      out << "GroupValue object size is not 48 bit! Size: " << groupValue.GetDefinedSize()
-          << ", value: " << data.ToString();
-    });
-    return false;
-  }
-  // Every byte of the buffer is folded in; unsigned arithmetic wraps should a
-  // malformed buffer be longer than 8 bytes.
-  std::uint64_t number = 0;
-  const unsigned char* bytes = data.GetData();
-  for (unsigned int index = 0; index < data.GetLength(); ++index) {
-    number = number * 256U + bytes[index];
-  }
-  value.SetUInt64(m_range.ScaleFrom(number));
-  return true;
+  return Log::TracedFromKnx(dpt, groupValue, __LINE__, [&] {
+    const KnxStack::BinaryData& data = groupValue.GetRawData();
+    if (groupValue.GetDefinedSize() != Unsigned48Bits) {
+      Log::Write(ULO_LOG_ERROR, Log::ConverterFile, "FromKnxValue", __LINE__, [&](std::ostream& out) {
+        out << "GroupValue object size is not 48 bit! Size: " << groupValue.GetDefinedSize()
+            << ", value: " << data.ToString();
+      });
+      return false;
+    }
+    // Every byte of the buffer is folded in; unsigned arithmetic wraps should a
+    // malformed buffer be longer than 8 bytes.
+    std::uint64_t number = 0;
+    const unsigned char* bytes = data.GetData();
+    for (unsigned int index = 0; index < data.GetLength(); ++index) {
+      number = number * 256U + bytes[index];
+    }
+    value.SetUInt64(m_range.ScaleFrom(number));
+    return true;
+  });
 }
 
 KnxConverter* KnxConverterInteger48BitUnsigned::Clone() const {

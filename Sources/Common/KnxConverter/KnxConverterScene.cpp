@@ -24,22 +24,24 @@ unsigned char SceneByte(std::int32_t scene) {
 // ---------------------------------------------------------------------------
 
 bool KnxConverterSceneNumber::ToKnxValue(const KNXDPT& dpt, const ULOVALUE& value, KnxStack::GroupValue& groupValue) {
-  Log::TraceToKnx(dpt, value, __LINE__);
-  if (value.GetType() != IVT_INT32) {
-    return false;
-  }
-  std::int32_t scene = value.GetInt32();
-  m_range.FitToRange(scene);
-  groupValue.SetAsUnsigned8(SceneByte(scene));
-  return true;
+  return Log::TracedToKnx(dpt, value, __LINE__, [&] {
+    if (value.GetType() != IVT_INT32) {
+      return false;
+    }
+    std::int32_t scene = value.GetInt32();
+    m_range.FitToRange(scene);
+    groupValue.SetAsUnsigned8(SceneByte(scene));
+    return true;
+  });
 }
 
 bool KnxConverterSceneNumber::FromKnxValue(const KNXDPT& dpt, const KnxStack::GroupValue& groupValue, ULOVALUE& value) {
-  Log::TraceFromKnx(dpt, groupValue, __LINE__);
-  std::int32_t scene = groupValue.GetAsUnsigned8() + 1;
-  m_range.FitToRange(scene);
-  value.SetInt32(scene);
-  return true;
+  return Log::TracedFromKnx(dpt, groupValue, __LINE__, [&] {
+    std::int32_t scene = groupValue.GetAsUnsigned8() + 1;
+    m_range.FitToRange(scene);
+    value.SetInt32(scene);
+    return true;
+  });
 }
 
 KnxConverter* KnxConverterSceneNumber::Clone() const {
@@ -49,33 +51,35 @@ KnxConverter* KnxConverterSceneNumber::Clone() const {
 // ---------------------------------------------------------------------------
 
 bool KnxConverterSceneControl::ToKnxValue(const KNXDPT& dpt, const ULOVALUE& value, KnxStack::GroupValue& groupValue) {
-  Log::TraceToKnx(dpt, value, __LINE__);
-  if (value.GetType() != IVT_INT32) {
-    return false;
-  }
-  std::int32_t scene = value.GetInt32();
-  m_range.FitToRange(scene);
-  unsigned char code = 0;  // 0 sends the same byte as activating scene 1
-  if (scene > 0) {
-    code = SceneByte(scene);
-  } else if (scene < 0) {
-    // Learning scene -n: the complement of n is -n - 1.
-    code = static_cast<unsigned char>(~static_cast<std::uint32_t>(scene) | LearnBit);
-  }
-  groupValue.SetAsUnsigned8(code);
-  return true;
+  return Log::TracedToKnx(dpt, value, __LINE__, [&] {
+    if (value.GetType() != IVT_INT32) {
+      return false;
+    }
+    std::int32_t scene = value.GetInt32();
+    m_range.FitToRange(scene);
+    unsigned char code = 0;  // 0 sends the same byte as activating scene 1
+    if (scene > 0) {
+      code = SceneByte(scene);
+    } else if (scene < 0) {
+      // Learning scene -n: the complement of n is -n - 1.
+      code = static_cast<unsigned char>(~static_cast<std::uint32_t>(scene) | LearnBit);
+    }
+    groupValue.SetAsUnsigned8(code);
+    return true;
+  });
 }
 
 bool KnxConverterSceneControl::FromKnxValue(const KNXDPT& dpt, const KnxStack::GroupValue& groupValue,
                                             ULOVALUE& value) {
-  Log::TraceFromKnx(dpt, groupValue, __LINE__);
-  const std::uint32_t code = groupValue.GetAsUnsigned8();
-  // The reserved bit 6 is not masked: the clamp below takes care of it.
-  std::int32_t scene =
-      (code & LearnBit) != 0 ? -static_cast<std::int32_t>(code & SceneBits) - 1 : static_cast<std::int32_t>(code) + 1;
-  m_range.FitToRange(scene);
-  value.SetInt32(scene);
-  return true;
+  return Log::TracedFromKnx(dpt, groupValue, __LINE__, [&] {
+    const std::uint32_t code = groupValue.GetAsUnsigned8();
+    // The reserved bit 6 is not masked: the clamp below takes care of it.
+    std::int32_t scene =
+        (code & LearnBit) != 0 ? -static_cast<std::int32_t>(code & SceneBits) - 1 : static_cast<std::int32_t>(code) + 1;
+    m_range.FitToRange(scene);
+    value.SetInt32(scene);
+    return true;
+  });
 }
 
 KnxConverter* KnxConverterSceneControl::Clone() const {
