@@ -1,5 +1,5 @@
 # Debian packages through CPack, one per install component:
-#   libknxvalueconverter1            runtime
+#   libknxvalueconverter<major>      runtime
 #   libknxvalueconverter-dev         dev       (needs the runtime and the date headers)
 #   knxconv                          tool      (needs the runtime)
 #   libknxvalueconverter-platform    platform  (the substitutes; the runtime needs

@@ -6,6 +6,8 @@
 #   scripts/test-consumer-armhf.sh <packages-dir> [<work-dir>]
 set -euo pipefail
 root="$(cd "$(dirname "$0")/.." && pwd)"
+# The SONAME and the runtime package carry the major version.
+major="$(sed -n 's/^project(KnxValueConverter VERSION \([0-9]*\)\..*/\1/p' "$root/CMakeLists.txt")"
 dir="${1:?usage: $0 <packages-dir> [<work-dir>]}"
 work="${2:-$root/build/consumer-armhf}"
 triplet=arm-linux-gnueabihf
@@ -15,7 +17,7 @@ rm -rf "$work"
 mkdir -p "$work/sysroot"
 work="$(cd "$work" && pwd)"
 sysroot="$work/sysroot"
-for name in libknxvalueconverter-platform libknxvalueconverter1 libknxvalueconverter-dev; do
+for name in libknxvalueconverter-platform "libknxvalueconverter$major" libknxvalueconverter-dev; do
   deb="$(ls "$dir"/"${name}"_*_armhf.deb | head -n 1)"
   echo "== unpacking ${deb##*/}"
   dpkg-deb -x "$deb" "$sysroot"

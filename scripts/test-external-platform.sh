@@ -8,6 +8,8 @@
 #   scripts/test-external-platform.sh <build-dir with the substitutes> [<work-dir>]
 set -euo pipefail
 root="$(cd "$(dirname "$0")/.." && pwd)"
+# The SONAME and the runtime package carry the major version.
+major="$(sed -n 's/^project(KnxValueConverter VERSION \([0-9]*\)\..*/\1/p' "$root/CMakeLists.txt")"
 substitutes="$(cd "${1:?usage: $0 <build-dir> [<work-dir>]}" && pwd)"
 work="${2:-$root/build/external}"
 jobs="${JOBS:-2}"
@@ -40,7 +42,7 @@ if find "$work/build" -name 'libuloplatform*' -o -name 'libknxstack*' | grep -q 
 fi
 needed="$(readelf -d "$work/build/Sources/Common/libknxvalueconverter.so" | sed -n 's/.*(NEEDED).*\[\(.*\)\]/\1/p')"
 echo "libknxvalueconverter.so needs:" $needed
-grep -qx 'libuloplatform.so.1' <<<"$needed" && grep -qx 'libknxstack.so.1' <<<"$needed" ||
+grep -qx "libuloplatform.so.$major" <<<"$needed" && grep -qx "libknxstack.so.$major" <<<"$needed" ||
   fail "the converter library does not link the given platform libraries"
 
 echo "== install"
@@ -62,7 +64,7 @@ ls "$work/packages"/*.deb | xargs -n 1 basename
 if ls "$work/packages" | grep -q platform; then
   fail "a package of the substitutes was made"
 fi
-runtime_depends="$(dpkg-deb -f "$work/packages"/libknxvalueconverter1_*.deb Depends)"
-echo "libknxvalueconverter1 depends: $runtime_depends"
+runtime_depends="$(dpkg-deb -f "$work/packages"/libknxvalueconverter"$major"_*.deb Depends)"
+echo "libknxvalueconverter$major depends: $runtime_depends"
 grep -q platform <<<"$runtime_depends" && fail "the runtime package depends on the substitutes"
 echo "== external platform test passed"

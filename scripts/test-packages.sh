@@ -5,12 +5,14 @@
 #   scripts/test-packages.sh <packages-dir>
 set -euo pipefail
 root="$(cd "$(dirname "$0")/.." && pwd)"
+# The SONAME and the runtime package carry the major version.
+major="$(sed -n 's/^project(KnxValueConverter VERSION \([0-9]*\)\..*/\1/p' "$root/CMakeLists.txt")"
 dir="${1:?usage: $0 <packages-dir>}"
 arch="$(dpkg --print-architecture)"
 SUDO=""
 [ "$(id -u)" = 0 ] || SUDO=sudo
 
-names=(libknxvalueconverter-platform libknxvalueconverter1 libknxvalueconverter-dev knxconv)
+names=(libknxvalueconverter-platform "libknxvalueconverter$major" libknxvalueconverter-dev knxconv)
 debs=()
 for name in "${names[@]}"; do
   deb="$(ls "$dir"/"${name}"_*_"$arch".deb 2>/dev/null | head -n 1)"
@@ -27,7 +29,7 @@ done
 
 remove() {
   echo "== removing the packages"
-  $SUDO dpkg --purge knxconv libknxvalueconverter-dev libknxvalueconverter1 libknxvalueconverter-platform >/dev/null
+  $SUDO dpkg --purge knxconv libknxvalueconverter-dev "libknxvalueconverter$major" libknxvalueconverter-platform >/dev/null
 }
 trap remove EXIT
 
