@@ -87,7 +87,6 @@ const Fact Facts[] = {
     {213, 100, "DPT_TempRoomSetpSet[4]", "room temperature setpoints (4 modes)", "°C", 64},
     {214, 100, "DPT_PowerFlowWaterDemHPM", "heat producer power demand", "", 32},
     {215, 100, "DPT_StatusBOC", "boiler controller status", "", 40},
-    {216, 100, "DPT_SpecHeatProd", "heat producer specification", "", 40},
     {217, 1, "DPT_Version", "version", "", 16},
     {218, 1, "DPT_VolumeLiter_Z", "volume with status", "l", 40},
     {219, 1, "DPT_AlarmInfo", "alarm information", "", 48},
