@@ -63,33 +63,29 @@ inline void TraceFromKnx(const KNXDPT& dpt, const KnxStack::GroupValue& groupVal
   });
 }
 
-// The trace of a conversion, then the conversion. The cold path converts
-// after writing, so the hot one keeps nothing across a call for the trace.
-template <typename Convert>
-[[gnu::cold, gnu::noinline]] bool TraceThenToKnx(const KNXDPT& dpt, const ULOVALUE& value, int line, Convert convert) {
+// The trace before a conversion, out of line: the hot path then holds no
+// closure of the conversion for it.
+[[gnu::cold, gnu::noinline]] inline void TraceToKnxCold(const KNXDPT& dpt, const ULOVALUE& value, int line) {
   TraceToKnx(dpt, value, line);
-  return convert();
+}
+
+[[gnu::cold, gnu::noinline]] inline void TraceFromKnxCold(const KNXDPT& dpt, const KnxStack::GroupValue& groupValue,
+                                                          int line) {
+  TraceFromKnx(dpt, groupValue, line);
 }
 
 template <typename Convert>
 inline bool TracedToKnx(const KNXDPT& dpt, const ULOVALUE& value, int line, Convert convert) {
   if (UloLogDetail::MayBeActive(ULO_LOG_TRACE)) {
-    return TraceThenToKnx(dpt, value, line, convert);
+    TraceToKnxCold(dpt, value, line);
   }
-  return convert();
-}
-
-template <typename Convert>
-[[gnu::cold, gnu::noinline]] bool TraceThenFromKnx(const KNXDPT& dpt, const KnxStack::GroupValue& groupValue, int line,
-                                                   Convert convert) {
-  TraceFromKnx(dpt, groupValue, line);
   return convert();
 }
 
 template <typename Convert>
 inline bool TracedFromKnx(const KNXDPT& dpt, const KnxStack::GroupValue& groupValue, int line, Convert convert) {
   if (UloLogDetail::MayBeActive(ULO_LOG_TRACE)) {
-    return TraceThenFromKnx(dpt, groupValue, line, convert);
+    TraceFromKnxCold(dpt, groupValue, line);
   }
   return convert();
 }

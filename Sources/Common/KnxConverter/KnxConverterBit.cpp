@@ -2,6 +2,7 @@
 
 #include <cstdint>
 
+#include "ConverterCallsOf.h"
 #include "ConverterLog.h"
 
 namespace Nelmo {
@@ -98,5 +99,9 @@ bool KnxConverter4Bit::FromKnxValue(const KNXDPT& dpt, const KnxStack::GroupValu
 KnxConverter* KnxConverter4Bit::Clone() const {
   return new KnxConverter4Bit(*this);
 }
+
+template const ConverterCalls& CallsOf<KnxConverter1Bit>();
+template const ConverterCalls& CallsOf<KnxConverter2Bit>();
+template const ConverterCalls& CallsOf<KnxConverter4Bit>();
 
 }  // namespace Nelmo

@@ -6,6 +6,7 @@
 #include <string_view>
 #include <utility>
 
+#include "ConverterCallsOf.h"
 #include "ConverterLog.h"
 #include "Weekdays.h"
 
@@ -256,5 +257,10 @@ bool KnxConverterDateTime::FromKnxValue(const KNXDPT& /*dpt*/, const KnxStack::G
 KnxConverter* KnxConverterDateTime::Clone() const {
   return new KnxConverterDateTime(*this);
 }
+
+template const ConverterCalls& CallsOf<KnxConverterDate>();
+template const ConverterCalls& CallsOf<KnxConverterTime>();
+template const ConverterCalls& CallsOf<KnxConverterTimeOfDay>();
+template const ConverterCalls& CallsOf<KnxConverterDateTime>();
 
 }  // namespace Nelmo

@@ -6,6 +6,7 @@
 #include <limits>
 #include <type_traits>
 
+#include "ConverterCallsOf.h"
 #include "ConverterLog.h"
 
 namespace Nelmo {
@@ -226,5 +227,11 @@ bool KnxConverterFloat32BitFloat::FromKnxValue(const KNXDPT& dpt, const KnxStack
 KnxConverter* KnxConverterFloat32BitFloat::Clone() const {
   return new KnxConverterFloat32BitFloat(*this);
 }
+
+template const ConverterCalls& CallsOf<KnxConverterFloat8BitUnsigned>();
+template const ConverterCalls& CallsOf<KnxConverterFloat8BitSigned>();
+template const ConverterCalls& CallsOf<KnxConverterFloat16BitSigned>();
+template const ConverterCalls& CallsOf<KnxConverterFloat16BitFloat>();
+template const ConverterCalls& CallsOf<KnxConverterFloat32BitFloat>();
 
 }  // namespace Nelmo

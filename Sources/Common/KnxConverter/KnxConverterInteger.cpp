@@ -4,6 +4,7 @@
 #include <limits>
 #include <type_traits>
 
+#include "ConverterCallsOf.h"
 #include "ConverterLog.h"
 #include "RangeArithmetic.h"
 
@@ -324,5 +325,14 @@ bool KnxConverterInteger48BitUnsigned::FromKnxValue(const KNXDPT& dpt, const Knx
 KnxConverter* KnxConverterInteger48BitUnsigned::Clone() const {
   return new KnxConverterInteger48BitUnsigned(*this);
 }
+
+template const ConverterCalls& CallsOf<KnxConverterByte8BitUnsigned>();
+template const ConverterCalls& CallsOf<KnxConverterInteger8BitSigned>();
+template const ConverterCalls& CallsOf<KnxConverterInteger16BitUnsigned>();
+template const ConverterCalls& CallsOf<KnxConverterInteger16BitSigned>();
+template const ConverterCalls& CallsOf<KnxConverterInteger24BitUnsigned>();
+template const ConverterCalls& CallsOf<KnxConverterInteger32BitUnsigned>();
+template const ConverterCalls& CallsOf<KnxConverterInteger32BitSigned>();
+template const ConverterCalls& CallsOf<KnxConverterInteger48BitUnsigned>();
 
 }  // namespace Nelmo

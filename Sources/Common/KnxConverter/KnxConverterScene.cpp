@@ -2,6 +2,7 @@
 
 #include <cstdint>
 
+#include "ConverterCallsOf.h"
 #include "ConverterLog.h"
 
 namespace Nelmo {
@@ -85,5 +86,8 @@ bool KnxConverterSceneControl::FromKnxValue(const KNXDPT& dpt, const KnxStack::G
 KnxConverter* KnxConverterSceneControl::Clone() const {
   return new KnxConverterSceneControl(*this);
 }
+
+template const ConverterCalls& CallsOf<KnxConverterSceneNumber>();
+template const ConverterCalls& CallsOf<KnxConverterSceneControl>();
 
 }  // namespace Nelmo

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "CodingUtf8.h"
+#include "ConverterCallsOf.h"
 #include "ConverterLog.h"
 
 namespace Nelmo {
@@ -145,5 +146,8 @@ bool KnxConverter14ByteString::FromKnxValue(const KNXDPT& dpt, const KnxStack::G
 KnxConverter* KnxConverter14ByteString::Clone() const {
   return new KnxConverter14ByteString(*this);
 }
+
+template const ConverterCalls& CallsOf<KnxConverter8BitString>();
+template const ConverterCalls& CallsOf<KnxConverter14ByteString>();
 
 }  // namespace Nelmo

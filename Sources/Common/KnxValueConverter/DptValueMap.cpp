@@ -24,6 +24,10 @@ void LogNoEntry(int line, Compose&& compose) {
 }  // namespace
 
 bool DptValueMap::AddEntry(const KNXDPT& dpt, DptValueEntry&& entry) {
+  return AddEntry(dpt, std::move(entry), nullptr);
+}
+
+bool DptValueMap::AddEntry(const KNXDPT& dpt, DptValueEntry&& entry, const ConverterCalls* calls) {
   auto mainNode = m_map.find(dpt.mainNumber);
   if (mainNode == m_map.end()) {
     const auto inserted = m_map.emplace(dpt.mainNumber, SubNumberMap());
@@ -36,7 +40,7 @@ bool DptValueMap::AddEntry(const KNXDPT& dpt, DptValueEntry&& entry) {
   }
   const auto inserted = mainNode->second.try_emplace(dpt.subNumber, std::move(entry));
   if (inserted.second) {
-    m_index.Add(dpt, inserted.first->second);
+    m_index.Add(dpt, inserted.first->second, calls);
   }
   return inserted.second;
 }
@@ -68,7 +72,9 @@ const DptValueEntry& DptValueMap::GetEntry(const KNXDPT& dpt) const {
 }
 
 DptRowIndex::Row DptValueMap::FindRowInTree(const KNXDPT& dpt) const {
-  return DptRowIndex::Row{&GetEntry(dpt), static_cast<std::uint32_t>(KnxDptFormat::GetBitSize(dpt))};
+  const DptValueEntry& entry = GetEntry(dpt);
+  return DptRowIndex::Row{&entry, static_cast<std::uint32_t>(KnxDptFormat::GetBitSize(dpt)), entry.valueType,
+                          entry.GetConverter()};
 }
 
 DptValueEntry& DptValueMap::GetEmptyEntry() {

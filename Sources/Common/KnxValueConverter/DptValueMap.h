@@ -10,6 +10,9 @@
 
 namespace Nelmo {
 
+class KnxValueConverter;
+struct ConverterCalls;
+
 // The DPT table: main number to sub number to row. A row with sub number 0
 // stands for its whole main type and answers sub numbers without a row.
 class NELMO_EXPORT DptValueMap {
@@ -37,11 +40,18 @@ class NELMO_EXPORT DptValueMap {
     const DptRowIndex::Row row = m_index.Find(dpt);
     return row.entry != nullptr ? row : FindRowInTree(dpt);
   }
+  // FindRow's answer where it is a standard row that the index holds; else
+  // null.
+  const DptRowIndex::Row* FindStandardRow(const KNXDPT& dpt) const { return m_index.FindStandard(dpt); }
   bool Clear();
   // Every row, ordered by main and sub number, for listing the table.
   const MainNumberMap& GetEntries() const { return m_map; }
 
  private:
+  friend class KnxValueConverter;
+
+  // As AddEntry; calls, if not null, is how to reach the entry's converter.
+  bool AddEntry(const KNXDPT& dpt, DptValueEntry&& entry, const ConverterCalls* calls);
   DptRowIndex::Row FindRowInTree(const KNXDPT& dpt) const;
 
   MainNumberMap m_map;

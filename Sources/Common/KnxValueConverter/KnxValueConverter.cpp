@@ -5,6 +5,7 @@
 #include <string_view>
 #include <utility>
 
+#include "ConverterCalls.h"
 #include "ConverterLog.h"
 #include "KnxDptFormat.h"
 
@@ -66,9 +67,9 @@ inline bool Encode(const DptValueEntry& entry, const KNXDPT& dpt, const ULOVALUE
   if (converter->ToKnxValue(dpt, working, groupValue)) {
     return true;
   }
-  return Fail(result, ToKnxFunction, __LINE__, [&](std::ostream& out) {
-    out << "Convert to KNX value failed for DPT = " << Log::Dpt{dpt} << " val = " << working.ToString();
-  });
+  result = false;
+  ConversionReport::SendFailed(dpt, working);
+  return false;
 }
 
 // A value that the row does not take as it is goes as a copy converted into
@@ -146,10 +147,9 @@ inline bool Decode(const DptValueEntry& entry, const KNXDPT& dpt, const KnxStack
   if (converter->FromKnxValue(dpt, chosen, value)) {
     return true;
   }
-  return Fail(result, FromKnxFunction, __LINE__, [&](std::ostream& out) {
-    out << "Convert from KNX value failed for DPT = " << Log::Dpt{dpt}
-        << " GroupValue = " << chosen.GetRawData().ToString();
-  });
+  result = false;
+  ConversionReport::ReceiveFailed(dpt, chosen);
+  return false;
 }
 
 // Values sent inside the control field arrive with 6 bits and are handed on
@@ -189,6 +189,32 @@ bool Receive(const KnxValueConverter& facade, KNXDPT& dpt, const KnxStack::Group
     return DecodeResized(entry, dpt, groupValue, expected, value, result);
   }
   return Decode(entry, dpt, groupValue, value, result);
+}
+
+[[gnu::noinline]] bool SendInGeneral(const KnxValueConverter& facade, const KNXDPT& dpt, const ULOVALUE& value,
+                                     KnxStack::GroupValue& groupValue) {
+  bool result = true;
+  try {
+    // Callers rely on seeing the DPT chosen for them in their own object.
+    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-const-cast): the completed DPT is written back on purpose
+    Send(facade, const_cast<KNXDPT&>(dpt), value, groupValue, result);
+  } catch (const KnxStack::GroupValueException& exception) {
+    // The result stays as it was: true unless a failure was being reported.
+    ConversionReport::SendThrew(exception);
+  }
+  return result;
+}
+
+[[gnu::noinline]] bool ReceiveInGeneral(const KnxValueConverter& facade, const KNXDPT& dpt,
+                                        const KnxStack::GroupValue& groupValue, ULOVALUE& value) {
+  bool result = true;
+  try {
+    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-const-cast): as in SendInGeneral
+    Receive(facade, const_cast<KNXDPT&>(dpt), groupValue, value, result);
+  } catch (const KnxStack::GroupValueException& exception) {
+    ConversionReport::ReceiveThrew(exception);
+  }
+  return result;
 }
 
 // A list of value types, for the compatibility table.
@@ -360,9 +386,13 @@ bool KnxValueConverter::Init() {
 bool KnxValueConverter::AddDptValueMapEntry(std::uint16_t mainNumber, std::uint16_t subNumber, std::uint8_t bitSize,
                                             UloValueType valueType, UloDP::UloValueSubType subType,
                                             const KnxConverter& converter) {
-  const KNXDPT dpt{bitSize, mainNumber, subNumber};
+  return AddRow(KNXDPT{bitSize, mainNumber, subNumber}, valueType, subType, converter, nullptr);
+}
+
+bool KnxValueConverter::AddRow(const KNXDPT& dpt, UloValueType valueType, UloDP::UloValueSubType subType,
+                               const KnxConverter& converter, const ConverterCalls* calls) {
   DptValueEntry entry(dpt, valueType, subType, converter.Clone());
-  return m_dptValueMap.AddEntry(dpt, std::move(entry));
+  return m_dptValueMap.AddEntry(dpt, std::move(entry), calls);
 }
 
 const DptValueEntry& KnxValueConverter::GetEntry(const KNXDPT& dpt) const {
@@ -374,31 +404,26 @@ bool KnxValueConverter::Clear() {
 }
 
 bool KnxValueConverter::ToKnxValue(const KNXDPT& dpt, const ULOVALUE& value, KnxStack::GroupValue& groupValue) const {
-  bool result = true;
-  try {
-    // Callers rely on seeing the DPT chosen for them in their own object.
-    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-const-cast): the completed DPT is written back on purpose
-    Send(*this, const_cast<KNXDPT&>(dpt), value, groupValue, result);
-  } catch (const KnxStack::GroupValueException& exception) {
-    // The result stays as it was: true unless a failure was being reported.
-    Log::Write(ULO_LOG_ERROR, Log::FacadeFile, ToKnxFunction, __LINE__, [&](std::ostream& out) {
-      out << "Exception caught during conversion of ULOVALUE to GroupValue: " << exception.what();
-    });
+  // A standard row that takes the value's type as it is needs none of the
+  // general path's steps: straight to its converter.
+  const DptRowIndex::Row* row = m_dptValueMap.FindStandardRow(dpt);
+  if (row != nullptr && row->valueType == value.GetType()) {
+    return row->calls->send(*row->converter, dpt, value, groupValue);
   }
-  return result;
+  return SendInGeneral(*this, dpt, value, groupValue);
 }
 
 bool KnxValueConverter::FromKnxValue(const KNXDPT& dpt, const KnxStack::GroupValue& groupValue, ULOVALUE& value) const {
-  bool result = true;
-  try {
-    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-const-cast): as in ToKnxValue
-    Receive(*this, const_cast<KNXDPT&>(dpt), groupValue, value, result);
-  } catch (const KnxStack::GroupValueException& exception) {
-    Log::Write(ULO_LOG_ERROR, Log::FacadeFile, FromKnxFunction, __LINE__, [&](std::ostream& out) {
-      out << "Exception caught during conversion of GroupValue: " << exception.what();
-    });
+  // Likewise for a standard row and a group value of the size it expects.
+  const DptRowIndex::Row* row = m_dptValueMap.FindStandardRow(dpt);
+  if (row != nullptr) {
+    const std::uint32_t defined = groupValue.GetDefinedSize();
+    if (defined == row->expectedBitSize && defined != ControlFieldBits) {
+      value.SetType(row->valueType);
+      return row->calls->receive(*row->converter, dpt, groupValue, value);
+    }
   }
-  return result;
+  return ReceiveInGeneral(*this, dpt, groupValue, value);
 }
 
 bool KnxValueConverter::AreValueTypesCompatible(UloValueType first, UloValueType second) const {

@@ -11,6 +11,8 @@
 
 namespace Nelmo {
 
+struct ConverterCalls;
+
 // Converts platform values to KNX group values and back, driven by the DPT
 // table. After construction the table is only read, so several threads may
 // convert at once; registering rows must not overlap with conversions.
@@ -56,6 +58,11 @@ class NELMO_EXPORT KnxValueConverter {
   bool GetDefaultMappingDptForValueType(KNXDPT& dpt, const ULOVALUE& value) const;
 
  private:
+  // AddDptValueMapEntry; calls, if not null, is how to reach the converter
+  // of a row whose class is known.
+  bool AddRow(const KNXDPT& dpt, UloValueType valueType, UloDP::UloValueSubType subType, const KnxConverter& converter,
+              const ConverterCalls* calls);
+
   DptValueMap m_dptValueMap;
 };
 

@@ -1,6 +1,8 @@
 #include <cstdint>
 #include <string_view>
+#include <type_traits>
 
+#include "ConverterCalls.h"
 #include "FloatRange.h"
 #include "IntegerRange.h"
 #include "KnxConverterBit.h"
@@ -71,12 +73,15 @@ bool KnxValueConverter::FillDptValueMap() {
   using namespace UloDP;
   m_dptValueMap.Clear();
   // The map keeps a clone of each prototype, so the prototypes live on the
-  // stack for one row only.
+  // stack for one row only. The clone's class is the prototype's, so its
+  // functions can be called directly.
   const auto row = [this](std::uint16_t mainNumber, std::uint16_t subNumber, std::string_view label,
                           std::uint8_t bitSize, UloValueType valueType, UloValueSubType subType,
-                          const KnxConverter& converter) {
-    StandardDptTable::ReportRow(AddDptValueMapEntry(mainNumber, subNumber, bitSize, valueType, subType, converter),
-                                label, __LINE__);
+                          const auto& converter) {
+    using Converter = std::decay_t<decltype(converter)>;
+    StandardDptTable::ReportRow(
+        AddRow(KNXDPT{bitSize, mainNumber, subNumber}, valueType, subType, converter, &CallsOf<Converter>()), label,
+        __LINE__);
   };
 
   // clang-format off
