@@ -1,9 +1,10 @@
 #include "KnxConverterString.h"
 
+#include <array>
+#include <cstddef>
 #include <cstdint>
 #include <string>
 
-#include "CodingUtf8.h"
 #include "ConverterCallsOf.h"
 #include "ConverterLog.h"
 
@@ -44,43 +45,63 @@ unsigned char SingleByte(const char*& cursor) {
 }
 
 // The bus bytes of text, in one pass: each character as its single byte,
-// bytes outside the set dropped, at most the 14 that travel.
+// bytes outside the set dropped, at most the 14 that travel. Collected in an
+// array and made a string once, which costs less than growing it by bytes.
 std::string ToString14(const CharacterSet& set, const std::string& text) {
-  std::string bytes;
-  for (const char* cursor = text.c_str(); *cursor != '\0' && bytes.size() < String14Bytes; ++cursor) {
+  std::array<char, String14Bytes> bytes{};
+  std::size_t count = 0;
+  for (const char* cursor = text.c_str(); *cursor != '\0' && count < String14Bytes; ++cursor) {
     const unsigned char byte = SingleByte(cursor);
     if (set.Contains(byte)) {
-      bytes += static_cast<char>(byte);
+      bytes[count++] = static_cast<char>(byte);
     }
   }
-  return bytes;
+  return std::string(bytes.data(), count);
+}
+
+// A Latin-1 character as UTF-8 in out: itself below 0x80, else a lead and a
+// trail byte. Returns the count.
+unsigned char LeadOf(unsigned char byte) {
+  return static_cast<unsigned char>(TwoByteLead | (byte >> 6U));
+}
+
+unsigned char TrailOf(unsigned char byte) {
+  return static_cast<unsigned char>(TrailMark | (byte & TrailBits));
+}
+
+std::size_t EncodeLatin1(unsigned char byte, std::array<char, 2>& out) {
+  if (byte < TrailMark) {
+    out[0] = static_cast<char>(byte);
+    return 1;
+  }
+  out[0] = static_cast<char>(LeadOf(byte));
+  out[1] = static_cast<char>(TrailOf(byte));
+  return 2;
 }
 
 // The received bytes as UTF-8, in one pass, keeping only the encoded bytes
-// that belong to the set.
+// that belong to the set; at most two for each of the 14 bytes.
 std::string FromString14(const CharacterSet& set, const std::string& received) {
-  std::string text;
-  for (const char character : received) {
-    const auto byte = static_cast<unsigned char>(character);
+  std::array<char, 2 * String14Bytes> text{};
+  std::size_t count = 0;
+  const auto keep = [&](unsigned char byte) {
+    if (set.Contains(byte)) {
+      text[count++] = static_cast<char>(byte);
+    }
+  };
+  for (std::size_t index = 0; index < received.size() && index < String14Bytes; ++index) {
+    const auto byte = static_cast<unsigned char>(received[index]);
     if (byte == 0) {
       break;
     }
     if (byte < TrailMark) {
-      if (set.Contains(byte)) {
-        text += character;
-      }
+      keep(byte);
       continue;
     }
-    const auto lead = static_cast<unsigned char>(TwoByteLead | (byte >> 6U));
-    const auto trail = static_cast<unsigned char>(TrailMark | (byte & TrailBits));
-    if (set.Contains(lead)) {
-      text += static_cast<char>(lead);
-    }
-    if (set.Contains(trail)) {
-      text += static_cast<char>(trail);
-    }
+    keep(LeadOf(byte));
+    keep(TrailOf(byte));
   }
-  return text;
+  return std::string(text.data(), count);
 }
 
 }  // namespace
@@ -98,7 +119,7 @@ bool KnxConverter8BitString::ToKnxValue(const KNXDPT& dpt, const ULOVALUE& value
   // Only the first character travels; an empty text sends 0.
   const char* cursor = value.GetString().c_str();
   const unsigned char character = *cursor == '\0' ? 0 : SingleByte(cursor);
-  if (!m_range.IsInRange(character)) {
+  if (!CharacterSet(m_range).Contains(character)) {
     return false;
   }
   groupValue.SetAsUnsigned8(character);
@@ -111,12 +132,13 @@ bool KnxConverter8BitString::FromKnxValue(const KNXDPT& dpt, const KnxStack::Gro
     return false;
   }
   const unsigned char character = groupValue.GetAsUnsigned8();
-  if (!m_range.IsInRange(character)) {
+  if (!CharacterSet(m_range).Contains(character)) {
     return false;
   }
   // The character 0 is the empty text.
-  const char text[] = {static_cast<char>(character), '\0'};
-  value.SetString(CodingUtf8::Iso88591ToUtf8(text));
+  std::array<char, 2> text{};
+  const std::size_t length = character == 0 ? 0 : EncodeLatin1(character, text);
+  value.SetString(std::string(text.data(), length));
   return true;
 }
 
