@@ -30,4 +30,19 @@ namespace ConversionReport {
 [[gnu::cold]] void ReceiveThrew(const KnxStack::GroupValueException& exception);
 }  // namespace ConversionReport
 
+// Runs step(result) with result true, and returns result; a group value
+// exception is caught and reported through threw. The result turns false
+// before a failure is logged, so an exception raised while logging still
+// reports the failure.
+template <typename Step>
+bool Guarded(Step&& step, void (*threw)(const KnxStack::GroupValueException&)) {
+  bool result = true;
+  try {
+    step(result);
+  } catch (const KnxStack::GroupValueException& exception) {
+    threw(exception);
+  }
+  return result;
+}
+
 }  // namespace Nelmo

@@ -6,8 +6,9 @@ namespace Nelmo {
 
 namespace ConverterCallsDetail {
 
-// The result turns false before the failure is logged: an exception raised
-// while logging must still report the failure.
+// Guarded's work written out: in its lambda the compiler no longer takes
+// the converter's function in. The result turns false before the failure is
+// logged, so an exception raised while logging still reports the failure.
 template <typename Converter>
 bool Send(KnxConverter& converter, const KNXDPT& dpt, const ULOVALUE& value, KnxStack::GroupValue& groupValue) {
   bool result = true;

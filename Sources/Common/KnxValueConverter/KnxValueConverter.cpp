@@ -193,28 +193,23 @@ bool Receive(const KnxValueConverter& facade, KNXDPT& dpt, const KnxStack::Group
 
 [[gnu::noinline]] bool SendInGeneral(const KnxValueConverter& facade, const KNXDPT& dpt, const ULOVALUE& value,
                                      KnxStack::GroupValue& groupValue) {
-  bool result = true;
-  try {
-    // Callers rely on seeing the DPT chosen for them in their own object.
-    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-const-cast): the completed DPT is written back on purpose
-    Send(facade, const_cast<KNXDPT&>(dpt), value, groupValue, result);
-  } catch (const KnxStack::GroupValueException& exception) {
-    // The result stays as it was: true unless a failure was being reported.
-    ConversionReport::SendThrew(exception);
-  }
-  return result;
+  return Guarded(
+      [&](bool& result) {
+        // Callers rely on seeing the DPT chosen for them in their own object.
+        // NOLINTNEXTLINE(cppcoreguidelines-pro-type-const-cast): the completed DPT is written back on purpose
+        Send(facade, const_cast<KNXDPT&>(dpt), value, groupValue, result);
+      },
+      &ConversionReport::SendThrew);
 }
 
 [[gnu::noinline]] bool ReceiveInGeneral(const KnxValueConverter& facade, const KNXDPT& dpt,
                                         const KnxStack::GroupValue& groupValue, ULOVALUE& value) {
-  bool result = true;
-  try {
-    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-const-cast): as in SendInGeneral
-    Receive(facade, const_cast<KNXDPT&>(dpt), groupValue, value, result);
-  } catch (const KnxStack::GroupValueException& exception) {
-    ConversionReport::ReceiveThrew(exception);
-  }
-  return result;
+  return Guarded(
+      [&](bool& result) {
+        // NOLINTNEXTLINE(cppcoreguidelines-pro-type-const-cast): as in SendInGeneral
+        Receive(facade, const_cast<KNXDPT&>(dpt), groupValue, value, result);
+      },
+      &ConversionReport::ReceiveThrew);
 }
 
 // A list of value types, for the compatibility table.
