@@ -21,13 +21,20 @@ constexpr const char* FileHelp =
     "                      (its line says why), 2 when the trace cannot be read or is not\n"
     "                      a trace, or the output cannot be written";
 
-TraceResult DecodeTelegram(const Nelmo::KnxValueConverter& converter, DptCache& dpts, OutputContext& context,
-                           const Telegram& telegram) {
-  TraceResult result;
-  result.telegram = telegram;
+// Decodes result.telegram into result, whose strings keep their capacity from
+// telegram to telegram.
+void DecodeTelegram(const Nelmo::KnxValueConverter& converter, DptCache& dpts, OutputContext& context,
+                    TraceResult& result) {
+  const Telegram& telegram = result.telegram;
+  result.dpt.reset();
+  result.converted = false;
+  result.value = ULOVALUE();
+  result.text.clear();
+  result.subType = UloDP::IVST_NONE;
+  result.bytes.clear();
+  result.error = telegram.error;
   if (!telegram.error.empty()) {
-    result.error = telegram.error;
-    return result;
+    return;
   }
   try {
     result.dpt = dpts.Parse(telegram.dpt);
@@ -42,7 +49,6 @@ TraceResult DecodeTelegram(const Nelmo::KnxValueConverter& converter, DptCache& 
   if (!result.converted && result.error.empty()) {
     result.error = "not converted";
   }
-  return result;
 }
 
 // Opens the trace file; InputError says in the system's words why not.
@@ -73,11 +79,11 @@ int RunTrace(const Arguments& arguments, OutputContext& context) {
   const Nelmo::KnxValueConverter converter;
   DptCache dpts;
   bool allConverted = true;
-  Telegram telegram;
+  TraceResult result;
   std::string line;
   // Reading stops where the output cannot be written.
-  while (!context.OutputFailed() && reader.Next(telegram)) {
-    const TraceResult result = DecodeTelegram(converter, dpts, context, telegram);
+  while (!context.OutputFailed() && reader.Next(result.telegram)) {
+    DecodeTelegram(converter, dpts, context, result);
     allConverted = allConverted && result.converted;
     // Only the form that is printed is built: this runs once per telegram.
     if (context.IsJson()) {
