@@ -40,36 +40,66 @@ void JsonObjectWriter::AppendString(std::string_view value) {
   }
 }
 
+void JsonObjectWriter::Text(std::string_view key, const char* value) {
+  Key(key);
+  if (value != nullptr) {
+    AppendString(value);
+  } else {
+    m_line += "null";
+  }
+}
+
+void JsonObjectWriter::Bool(std::string_view key, bool value) {
+  Key(key);
+  m_line += value ? "true" : "false";
+}
+
+void JsonObjectWriter::Signed(std::string_view key, std::int64_t value) {
+  Key(key);
+  m_line += std::to_string(value);
+}
+
 void JsonObjectWriter::Unsigned(std::string_view key, std::uint64_t value) {
   Key(key);
   m_line += std::to_string(value);
 }
 
-void JsonObjectWriter::Value(std::string_view key, const Json& value) {
+void JsonObjectWriter::Texts(std::string_view key, const char* const* values, std::size_t count) {
   Key(key);
+  m_line += '[';
+  for (std::size_t i = 0; i < count; ++i) {
+    if (i > 0) {
+      m_line += ',';
+    }
+    AppendString(values[i]);
+  }
+  m_line += ']';
+}
+
+void JsonObjectWriter::Value(std::string_view key, const Json& value) {
   if (value.is_string()) {
-    AppendString(value.get_ref<const std::string&>());
+    String(key, value.get_ref<const std::string&>());
   } else if (value.is_boolean()) {
-    m_line += value.get<bool>() ? "true" : "false";
+    Bool(key, value.get<bool>());
   } else if (value.is_number_unsigned()) {
-    m_line += std::to_string(value.get<std::uint64_t>());
+    Unsigned(key, value.get<std::uint64_t>());
   } else if (value.is_number_integer()) {
-    m_line += std::to_string(value.get<std::int64_t>());
-  } else if (value.is_null()) {
-    m_line += "null";
+    Signed(key, value.get<std::int64_t>());
   } else {
-    m_line += JsonLine(value);
+    Key(key);
+    m_line += value.is_null() ? "null" : JsonLine(value);
   }
 }
 
-void JsonObjectWriter::Members(const Json& object) {
-  for (const auto& member : object.items()) {
-    Value(member.key(), member.value());
-  }
+void JsonObjectWriter::Open(std::string_view key) {
+  Key(key);
+  m_line += '{';
+  m_first = true;
 }
 
 void JsonObjectWriter::Close() {
   m_line += '}';
+  m_first = false;
 }
 
 }  // namespace Knxconv

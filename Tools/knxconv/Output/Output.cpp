@@ -117,7 +117,7 @@ Json DecodeJson(const TraceResult& result) {
   json["type"] = ValueTypeText(result.value.GetType());
   json["subtype"] = ValueSubTypeText(result.subType);
   json["value"] = ValueJson(result.value);
-  json.update(Display(result).json);
+  json.update(DisplayMembers(Display(result)));
   return json;
 }
 
@@ -126,7 +126,7 @@ std::string DecodeText(const TraceResult& result) {
 }
 
 Json DisplayJson(const TraceResult& result) {
-  return Display(result).json;
+  return DisplayMembers(Display(result));
 }
 
 TableRow DescribeRow(const Nelmo::DptValueEntry& entry) {
@@ -242,7 +242,7 @@ void TraceJson(const TraceResult& result, std::string& line) {
     json.String("type", ValueTypeText(result.value.GetType()));
     json.String("subtype", ValueSubTypeText(result.subType));
     json.Value("value", ValueJson(result.value));
-    json.Members(Display(result).json);
+    WriteDisplayMembers(Display(result), json);
   }
   json.Close();
 }

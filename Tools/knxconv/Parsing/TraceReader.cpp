@@ -22,7 +22,8 @@ std::size_t SplitFields(std::string_view line, Fields& fields) {
   while (true) {
     const std::size_t comma = line.find(',', start);
     if (count < FieldCount) {
-      fields[count] = Trim(line.substr(start, comma == std::string_view::npos ? std::string_view::npos : comma - start));
+      fields[count] =
+          Trim(line.substr(start, comma == std::string_view::npos ? std::string_view::npos : comma - start));
     }
     ++count;
     if (comma == std::string_view::npos) {
