@@ -90,7 +90,8 @@ int RunTrace(const Arguments& arguments, OutputContext& context) {
       TraceJson(result, line);
       context.PrintJsonLine(line);
     } else {
-      context.PrintLine(TraceText(result));
+      TraceText(result, line);
+      context.PrintLine(line);
     }
   }
   if (source.bad()) {

@@ -204,27 +204,29 @@ void AppendPadded(std::string& line, std::string_view text, std::size_t width) {
 }  // namespace
 
 std::string TraceText(const TraceResult& result) {
-  // One string built in place: this runs once per telegram of a trace.
-  constexpr std::size_t Typical = 112;
-  const Telegram& telegram = result.telegram;
   std::string text;
-  text.reserve(Typical);
-  text.append(telegram.time).append("  ");
-  AppendPadded(text, telegram.source, AddressWidth);
-  text.append(" -> ");
-  AppendPadded(text, telegram.destination, AddressWidth);
-  text.append("  ");
-  AppendPadded(text, TraceDpt(result), DptWidth);
-  text.append(" ");
-  AppendPadded(text, telegram.payload, PayloadWidth);
-  text.append(" ");
-  if (!result.converted) {
-    return text.append("error: ").append(result.error);
-  }
-  text += DecodeText(result);
-  // An empty value leaves no blanks at the end of the line.
-  text.erase(text.find_last_not_of(' ') + 1);
+  TraceText(result, text);
   return text;
+}
+
+void TraceText(const TraceResult& result, std::string& line) {
+  const Telegram& telegram = result.telegram;
+  line.assign(telegram.time).append("  ");
+  AppendPadded(line, telegram.source, AddressWidth);
+  line.append(" -> ");
+  AppendPadded(line, telegram.destination, AddressWidth);
+  line.append("  ");
+  AppendPadded(line, TraceDpt(result), DptWidth);
+  line.append(" ");
+  AppendPadded(line, telegram.payload, PayloadWidth);
+  line.append(" ");
+  if (!result.converted) {
+    line.append("error: ").append(result.error);
+    return;
+  }
+  line += DecodeText(result);
+  // An empty value leaves no blanks at the end of the line.
+  line.erase(line.find_last_not_of(' ') + 1);
 }
 
 void TraceJson(const TraceResult& result, std::string& line) {

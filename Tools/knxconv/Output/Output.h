@@ -78,6 +78,8 @@ Json DisplayJson(const TraceResult& result);
 
 // "time  source -> destination  dpt  payload  value", or "... error: why".
 std::string TraceText(const TraceResult& result);
+// The same written over line, which keeps its capacity.
+void TraceText(const TraceResult& result, std::string& line);
 // The same as one line of JSON, written over line.
 void TraceJson(const TraceResult& result, std::string& line);
 

@@ -22,15 +22,18 @@ std::string OutputContext::TakeLogErrors() {
 }
 
 void OutputContext::PrintLine(std::string_view text) {
-  WriteLine(EscapeText(text));
+  m_line.clear();
+  AppendEscapedText(m_line, text);
+  WriteLine();
 }
 
 void OutputContext::PrintJson(const Json& json) {
-  WriteLine(JsonLine(json));
+  PrintJsonLine(JsonLine(json));
 }
 
 void OutputContext::PrintJsonLine(const std::string& line) {
-  WriteLine(line);
+  m_line.assign(line);
+  WriteLine();
 }
 
 void OutputContext::PrintText(std::string_view text) {
@@ -85,12 +88,14 @@ int OutputContext::Finish(int status) {
   return ExitUsage;
 }
 
-void OutputContext::WriteLine(const std::string& line) {
+void OutputContext::WriteLine() {
   if (OutputFailed()) {
     return;
   }
+  m_line += '\n';
   errno = 0;
-  m_out << line << '\n';
+  // One write per line: the stream's buffer gathers them.
+  m_out.write(m_line.data(), static_cast<std::streamsize>(m_line.size()));
   CheckOutput();
   if (m_flushEachLine) {
     FlushOutput();

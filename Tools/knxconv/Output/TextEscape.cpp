@@ -99,6 +99,11 @@ std::size_t PlainPrefix(std::string_view text) {
 std::string EscapeText(std::string_view text) {
   std::string escaped;
   escaped.reserve(text.size());
+  AppendEscapedText(escaped, text);
+  return escaped;
+}
+
+void AppendEscapedText(std::string& escaped, std::string_view text) {
   while (!text.empty()) {
     // Printable ASCII, nearly all of a line, goes as it is, a run at a time.
     const std::size_t plain = PlainPrefix(text);
@@ -123,7 +128,6 @@ std::string EscapeText(std::string_view text) {
     }
     text.remove_prefix(length);
   }
-  return escaped;
 }
 
 std::string EscapeJsonControls(std::string_view json) {
