@@ -23,6 +23,9 @@ class JsonObjectWriter {
   void Bool(std::string_view key, bool value);
   void Signed(std::string_view key, std::int64_t value);
   void Unsigned(std::string_view key, std::uint64_t value);
+  // A finite number as JsonLine writes it ("30.0", "21.52"); null otherwise.
+  void Number(std::string_view key, double value);
+  void Null(std::string_view key);
   // An array of texts.
   void Texts(std::string_view key, const char* const* values, std::size_t count);
   // Any JSON value.
@@ -35,9 +38,14 @@ class JsonObjectWriter {
 
  private:
   void Key(std::string_view key);
-  void AppendString(std::string_view value);
+  void PutString(std::string_view value);
+  // Writes at m_size over the line's bytes: appending to the string piece
+  // by piece costs more than the member's bytes.
+  void Put(std::string_view piece);
+  void Put(char c);
 
   std::string& m_line;
+  std::size_t m_size = 0;
   bool m_first = true;
 };
 
