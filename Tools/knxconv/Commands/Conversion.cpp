@@ -43,13 +43,14 @@ KNXDPT DptWithBits(const std::string& text, int bits) {
   return dpt;
 }
 
-void Decode(const Nelmo::KnxValueConverter& converter, const std::string& payload, int bits, TraceResult& result) {
+void Decode(const Nelmo::KnxValueConverter& converter, const std::string& payload, int bits, TraceResult& result,
+            ValueTextForm text) {
   const KnxStack::BinaryData data = ParseHex(NormaliseHex(payload));
   if (auto error = PayloadSizeError(*result.dpt, static_cast<unsigned int>(bits), data)) {
     result.error = std::move(*error);
     return;
   }
-  ConvertGroupValue(converter, KnxStack::GroupValue(data, GroupValueBits(*result.dpt, bits, data)), result);
+  ConvertGroupValue(converter, KnxStack::GroupValue(data, GroupValueBits(*result.dpt, bits, data)), result, text);
 }
 
 KnxStack::GroupValue PayloadGroupValue(const KNXDPT& dpt, const std::string& payload, int bits) {
@@ -58,14 +59,16 @@ KnxStack::GroupValue PayloadGroupValue(const KNXDPT& dpt, const std::string& pay
 }
 
 void ConvertGroupValue(const Nelmo::KnxValueConverter& converter, const KnxStack::GroupValue& groupValue,
-                       TraceResult& result) {
+                       TraceResult& result, ValueTextForm text) {
   const KnxStack::BinaryData& data = groupValue.GetRawData();
   result.bytes.assign(data.GetData(), data.GetData() + data.GetLength());
   result.converted = converter.FromKnxValue(*result.dpt, groupValue, result.value);
   if (result.converted) {
     const Nelmo::DptValueEntry& entry = QuietEntry(converter, *result.dpt);
     result.subType = entry.subType;
-    result.text = DisplayText(entry.GetConverter(), *result.dpt, result.value, groupValue);
+    if (text == ValueTextForm::Made) {
+      result.text = DisplayText(entry.GetConverter(), *result.dpt, result.value, groupValue);
+    }
   }
 }
 

@@ -5,6 +5,7 @@
 #include <sstream>
 #include <string>
 #include <string_view>
+#include <type_traits>
 
 #include "CatalogueInput.h"
 #include "ConverterInfo.h"
@@ -38,6 +39,60 @@ std::string OrNone(const std::string& text) {
 Json TextOrNull(const std::string& text) {
   return text.empty() ? Json(nullptr) : Json(text);
 }
+
+// Calls visit with the value as JSON has it: nullptr for no value (and for a
+// number that is not finite, which JSON cannot write), bool, a number of the
+// value's own type, or the text of texts, dates and times.
+template <typename Visitor>
+auto VisitValue(const ULOVALUE& value, Visitor&& visit) {
+  switch (KindOf(value.GetType())) {
+    case ValueKind::NoValue:
+      return visit(nullptr);
+    case ValueKind::Boolean:
+      return visit(value.GetBool());
+    case ValueKind::Number:
+      return std::isfinite(value.GetDouble()) ? visit(value.GetDouble()) : visit(nullptr);
+    case ValueKind::Signed32:
+      return visit(value.GetInt32());
+    case ValueKind::Byte:
+      return visit(value.GetByte());
+    case ValueKind::Unsigned16:
+      return visit(value.GetUInt16());
+    case ValueKind::Unsigned32:
+      return visit(value.GetUInt32());
+    case ValueKind::Unsigned64:
+      return visit(value.GetUInt64());
+    case ValueKind::Text:
+    case ValueKind::Date:
+    case ValueKind::Time:
+    case ValueKind::DateTime:
+    case ValueKind::Unknown:
+      break;
+  }
+  return visit(value.ToString());
+}
+
+// Writes a visited value as the member "value".
+class ValueMember {
+ public:
+  explicit ValueMember(JsonObjectWriter& json) : m_json(json) {}
+  void operator()(std::nullptr_t) const { m_json.Null(Key); }
+  void operator()(bool value) const { m_json.Bool(Key, value); }
+  void operator()(double value) const { m_json.Number(Key, value); }
+  void operator()(const std::string& value) const { m_json.String(Key, value); }
+  template <typename Integer>
+  void operator()(Integer value) const {
+    if constexpr (std::is_signed_v<Integer>) {
+      m_json.Signed(Key, value);
+    } else {
+      m_json.Unsigned(Key, value);
+    }
+  }
+
+ private:
+  static constexpr const char* Key = "value";
+  JsonObjectWriter& m_json;
+};
 
 ValueDisplay Display(const TraceResult& result) {
   return DisplayValue(*result.dpt, result.value, result.bytes,
@@ -75,32 +130,7 @@ std::string JsonLine(const Json& json) {
 }
 
 Json ValueJson(const ULOVALUE& value) {
-  switch (KindOf(value.GetType())) {
-    case ValueKind::NoValue:
-      return nullptr;
-    case ValueKind::Boolean:
-      return value.GetBool();
-    case ValueKind::Number:
-      // JSON has no NaN.
-      return std::isfinite(value.GetDouble()) ? Json(value.GetDouble()) : Json(nullptr);
-    case ValueKind::Signed32:
-      return value.GetInt32();
-    case ValueKind::Byte:
-      return value.GetByte();
-    case ValueKind::Unsigned16:
-      return value.GetUInt16();
-    case ValueKind::Unsigned32:
-      return value.GetUInt32();
-    case ValueKind::Unsigned64:
-      return value.GetUInt64();
-    case ValueKind::Text:
-    case ValueKind::Date:
-    case ValueKind::Time:
-    case ValueKind::DateTime:
-    case ValueKind::Unknown:
-      break;
-  }
-  return value.ToString();
+  return VisitValue(value, [](auto member) { return Json(member); });
 }
 
 Json EncodeJson(const KNXDPT& dpt, const KnxStack::GroupValue& groupValue) {
@@ -243,8 +273,9 @@ void TraceJson(const TraceResult& result, std::string& line) {
   } else {
     json.String("type", ValueTypeText(result.value.GetType()));
     json.String("subtype", ValueSubTypeText(result.subType));
-    json.Value("value", ValueJson(result.value));
-    WriteDisplayMembers(Display(result), json);
+    VisitValue(result.value, ValueMember(json));
+    // The display's text is not written.
+    WriteDisplayMembers(DisplayValue(*result.dpt, result.value, result.bytes, std::string()), json);
   }
   json.Close();
 }
