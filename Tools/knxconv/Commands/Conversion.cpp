@@ -1,5 +1,8 @@
 #include "Conversion.h"
 
+#include <algorithm>
+#include <cctype>
+
 #include "CalendarCheck.h"
 #include "CatalogueInput.h"
 #include "DptText.h"
@@ -30,6 +33,18 @@ unsigned int GroupValueBits(const KNXDPT& dpt, int bits, const KnxStack::BinaryD
   return 8U * data.GetLength();
 }
 
+// The payload's bytes. Most payloads are hex pairs and blanks already and
+// need no normalised copy.
+KnxStack::BinaryData PayloadBytes(const std::string& payload) {
+  const bool plain = std::all_of(payload.begin(), payload.end(), [](const char c) {
+    return c == ' ' || std::isxdigit(static_cast<unsigned char>(c)) != 0;
+  });
+  if (plain) {
+    return ParseHex(payload);
+  }
+  return ParseHex(NormaliseHex(payload));
+}
+
 }  // namespace
 
 const Nelmo::DptValueEntry& QuietEntry(const Nelmo::KnxValueConverter& converter, const KNXDPT& dpt) {
@@ -45,7 +60,7 @@ KNXDPT DptWithBits(const std::string& text, int bits) {
 
 void Decode(const Nelmo::KnxValueConverter& converter, const std::string& payload, int bits, TraceResult& result,
             ValueTextForm text) {
-  const KnxStack::BinaryData data = ParseHex(NormaliseHex(payload));
+  const KnxStack::BinaryData data = PayloadBytes(payload);
   if (auto error = PayloadSizeError(*result.dpt, static_cast<unsigned int>(bits), data)) {
     result.error = std::move(*error);
     return;
@@ -54,7 +69,7 @@ void Decode(const Nelmo::KnxValueConverter& converter, const std::string& payloa
 }
 
 KnxStack::GroupValue PayloadGroupValue(const KNXDPT& dpt, const std::string& payload, int bits) {
-  const KnxStack::BinaryData data = ParseHex(NormaliseHex(payload));
+  const KnxStack::BinaryData data = PayloadBytes(payload);
   return KnxStack::GroupValue(data, GroupValueBits(dpt, bits, data));
 }
 

@@ -1,5 +1,6 @@
 #include "HexText.h"
 
+#include <array>
 #include <string>
 #include <vector>
 
@@ -22,6 +23,8 @@ int HexDigit(char c) {
   return -1;
 }
 
+constexpr std::size_t ShortBytes = 64;
+
 bool IsBlank(char c) {
   return c == ' ' || c == '\t';
 }
@@ -33,7 +36,15 @@ bool IsBlank(char c) {
 }  // namespace
 
 KnxStack::BinaryData ParseHex(std::string_view text) {
-  std::vector<unsigned char> bytes;
+  // Two digits a byte: a payload of a trace line fits the stack.
+  std::array<unsigned char, ShortBytes> shortBytes{};
+  std::vector<unsigned char> longBytes;
+  unsigned char* bytes = shortBytes.data();
+  if (text.size() / 2 > shortBytes.size()) {
+    longBytes.resize(text.size() / 2);
+    bytes = longBytes.data();
+  }
+  std::size_t count = 0;
   std::size_t position = 0;
   while (position < text.size()) {
     if (IsBlank(text[position])) {
@@ -52,13 +63,13 @@ KnxStack::BinaryData ParseHex(std::string_view text) {
       Refuse(text, "'" + std::string(text.substr(position, end - position)) + "' is not made of whole bytes");
     }
     for (; position < end; position += 2) {
-      bytes.push_back(static_cast<unsigned char>(HexDigit(text[position]) * 16 + HexDigit(text[position + 1])));
+      bytes[count++] = static_cast<unsigned char>(HexDigit(text[position]) * 16 + HexDigit(text[position + 1]));
     }
   }
-  if (bytes.empty()) {
+  if (count == 0) {
     Refuse(text, "no bytes");
   }
-  return KnxStack::BinaryData(bytes.data(), static_cast<unsigned int>(bytes.size()));
+  return KnxStack::BinaryData(bytes, static_cast<unsigned int>(count));
 }
 
 }  // namespace Knxconv
