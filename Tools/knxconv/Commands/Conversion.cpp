@@ -7,6 +7,7 @@
 #include "CatalogueInput.h"
 #include "DptText.h"
 #include "HexText.h"
+#include "InputError.h"
 #include "LogForwarder.h"
 #include "NumberDisplay.h"
 #include "PayloadSize.h"
@@ -33,16 +34,34 @@ unsigned int GroupValueBits(const KNXDPT& dpt, int bits, const KnxStack::BinaryD
   return 8U * data.GetLength();
 }
 
-// The payload's bytes. Most payloads are hex pairs and blanks already and
-// need no normalised copy.
-KnxStack::BinaryData PayloadBytes(const std::string& payload) {
+// The payload's bytes into data, or why it is not hex. Most payloads are hex
+// pairs and blanks already and need no normalised copy.
+std::optional<std::string> ReadPayload(const std::string& payload, KnxStack::BinaryData& data) {
   const bool plain = std::all_of(payload.begin(), payload.end(), [](const char c) {
     return c == ' ' || std::isxdigit(static_cast<unsigned char>(c)) != 0;
   });
   if (plain) {
-    return ParseHex(payload);
+    return ReadHex(payload, data);
   }
-  return ParseHex(NormaliseHex(payload));
+  return ReadHex(NormaliseHex(payload), data);
+}
+
+KnxStack::BinaryData PayloadBytes(const std::string& payload) {
+  KnxStack::BinaryData data;
+  if (std::optional<std::string> error = ReadPayload(payload, data)) {
+    throw InputError(*error);
+  }
+  return data;
+}
+
+// Decode from the payload's bytes.
+void DecodeBytes(const Nelmo::KnxValueConverter& converter, const KnxStack::BinaryData& data, int bits,
+                 TraceResult& result, ValueTextForm text) {
+  if (auto error = PayloadSizeError(*result.dpt, static_cast<unsigned int>(bits), data)) {
+    result.error = std::move(*error);
+    return;
+  }
+  ConvertGroupValue(converter, KnxStack::GroupValue(data, GroupValueBits(*result.dpt, bits, data)), result, text);
 }
 
 }  // namespace
@@ -60,12 +79,17 @@ KNXDPT DptWithBits(const std::string& text, int bits) {
 
 void Decode(const Nelmo::KnxValueConverter& converter, const std::string& payload, int bits, TraceResult& result,
             ValueTextForm text) {
-  const KnxStack::BinaryData data = PayloadBytes(payload);
-  if (auto error = PayloadSizeError(*result.dpt, static_cast<unsigned int>(bits), data)) {
+  DecodeBytes(converter, PayloadBytes(payload), bits, result, text);
+}
+
+void DecodeOrRefuse(const Nelmo::KnxValueConverter& converter, const std::string& payload, TraceResult& result,
+                    ValueTextForm text) {
+  KnxStack::BinaryData data;
+  if (std::optional<std::string> error = ReadPayload(payload, data)) {
     result.error = std::move(*error);
     return;
   }
-  ConvertGroupValue(converter, KnxStack::GroupValue(data, GroupValueBits(*result.dpt, bits, data)), result, text);
+  DecodeBytes(converter, data, 0, result, text);
 }
 
 KnxStack::GroupValue PayloadGroupValue(const KNXDPT& dpt, const std::string& payload, int bits) {

@@ -25,6 +25,12 @@ enum class ValueTextForm { Made, Skipped };
 void Decode(const Nelmo::KnxValueConverter& converter, const std::string& payload, int bits, TraceResult& result,
             ValueTextForm text = ValueTextForm::Made);
 
+// As Decode with the DPT's size, but a payload that is not hex is refused in
+// result.error, as one of the wrong size is, instead of thrown: a trace may
+// hold many, and a throw costs more than a conversion.
+void DecodeOrRefuse(const Nelmo::KnxValueConverter& converter, const std::string& payload, TraceResult& result,
+                    ValueTextForm text);
+
 // The group value of hex payload as Decode reads it. Throws InputError.
 KnxStack::GroupValue PayloadGroupValue(const KNXDPT& dpt, const std::string& payload, int bits);
 // What Decode makes of a group value, for result.dpt.

@@ -39,7 +39,8 @@ void DecodeTelegram(const Nelmo::KnxValueConverter& converter, DptCache& dpts, O
   try {
     result.dpt = dpts.Parse(telegram.dpt);
     context.TakeLogErrors();
-    Decode(converter, telegram.payload, 0, result, context.IsJson() ? ValueTextForm::Skipped : ValueTextForm::Made);
+    DecodeOrRefuse(converter, telegram.payload, result,
+                   context.IsJson() ? ValueTextForm::Skipped : ValueTextForm::Made);
     if (!result.converted && result.error.empty()) {
       result.error = context.TakeLogErrors();
     }

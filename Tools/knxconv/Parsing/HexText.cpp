@@ -29,13 +29,21 @@ bool IsBlank(char c) {
   return c == ' ' || c == '\t';
 }
 
-[[noreturn]] void Refuse(std::string_view text, const std::string& reason) {
-  throw InputError("malformed hex payload '" + std::string(text) + "': " + reason);
+std::string Refusal(std::string_view text, const std::string& reason) {
+  return "malformed hex payload '" + std::string(text) + "': " + reason;
 }
 
 }  // namespace
 
 KnxStack::BinaryData ParseHex(std::string_view text) {
+  KnxStack::BinaryData data;
+  if (std::optional<std::string> error = ReadHex(text, data)) {
+    throw InputError(*error);
+  }
+  return data;
+}
+
+std::optional<std::string> ReadHex(std::string_view text, KnxStack::BinaryData& data) {
   // Two digits a byte: a payload of a trace line fits the stack.
   std::array<unsigned char, ShortBytes> shortBytes{};
   std::vector<unsigned char> longBytes;
@@ -55,21 +63,22 @@ KnxStack::BinaryData ParseHex(std::string_view text) {
     std::size_t end = position;
     while (end < text.size() && !IsBlank(text[end])) {
       if (HexDigit(text[end]) < 0) {
-        Refuse(text, std::string("'") + text[end] + "' is not a hex digit");
+        return Refusal(text, std::string("'") + text[end] + "' is not a hex digit");
       }
       ++end;
     }
     if ((end - position) % 2 != 0) {
-      Refuse(text, "'" + std::string(text.substr(position, end - position)) + "' is not made of whole bytes");
+      return Refusal(text, "'" + std::string(text.substr(position, end - position)) + "' is not made of whole bytes");
     }
     for (; position < end; position += 2) {
       bytes[count++] = static_cast<unsigned char>(HexDigit(text[position]) * 16 + HexDigit(text[position + 1]));
     }
   }
   if (count == 0) {
-    Refuse(text, "no bytes");
+    return Refusal(text, "no bytes");
   }
-  return KnxStack::BinaryData(bytes, static_cast<unsigned int>(count));
+  data = KnxStack::BinaryData(bytes, static_cast<unsigned int>(count));
+  return std::nullopt;
 }
 
 }  // namespace Knxconv
