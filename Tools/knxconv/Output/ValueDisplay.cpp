@@ -70,8 +70,7 @@ void AddNumber(ValueDisplay& display, const char* name, std::int64_t number) {
   AddField(display, name, DisplayField::Kind::Number, number);
 }
 
-void ShowBoolean(const KNXDPT& dpt, const ULOVALUE& value, ValueDisplay& display) {
-  const Nelmo::DptSubtype* subtype = SubtypeOf(dpt);
+void ShowBoolean(const Nelmo::DptSubtype* subtype, const ULOVALUE& value, ValueDisplay& display) {
   const char* name = subtype != nullptr ? Nelmo::DptCatalogue::ValueName(*subtype, value.GetBool() ? 1 : 0) : nullptr;
   if (name != nullptr) {
     display.text = name;
@@ -139,8 +138,7 @@ bool IsNumeric(ValueKind kind) {
 }
 
 // Enumerations by value name, other numbers with their unit.
-void ShowNumber(const KNXDPT& dpt, const ULOVALUE& value, ValueDisplay& display) {
-  const Nelmo::DptSubtype* subtype = SubtypeOf(dpt);
+void ShowNumber(const Nelmo::DptSubtype* subtype, const ULOVALUE& value, ValueDisplay& display) {
   const ValueKind kind = KindOf(value.GetType());
   if (subtype == nullptr || !IsNumeric(kind)) {
     return;
@@ -190,7 +188,7 @@ ValueDisplay DisplayValue(const KNXDPT& dpt, const ULOVALUE& value, const std::v
   }
   switch (dpt.mainNumber) {
     case 1:
-      ShowBoolean(dpt, value, display);
+      ShowBoolean(subtype, value, display);
       break;
     case 2:
       ShowControlled(dpt, bytes, display);
@@ -217,7 +215,7 @@ ValueDisplay DisplayValue(const KNXDPT& dpt, const ULOVALUE& value, const std::v
       }
       break;
     default:
-      ShowNumber(dpt, value, display);
+      ShowNumber(subtype, value, display);
       break;
   }
   return display;
