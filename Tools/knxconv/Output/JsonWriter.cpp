@@ -26,41 +26,20 @@ std::string_view IntegerText(Integer value, std::array<char, NumberSize>& text) 
   return {text.data(), static_cast<std::size_t>(result.ptr - text.data())};
 }
 
-// A line's room to start with, grown as lines need.
-constexpr std::size_t MinimumSize = 256;
-
 }  // namespace
 
 JsonObjectWriter::JsonObjectWriter(std::string& line) : m_line(line) {
-  // The line's bytes are written over; Close cuts it to what was written.
-  m_line.resize(std::max(m_line.capacity(), MinimumSize));
-  Put('{');
-}
-
-void JsonObjectWriter::Put(std::string_view piece) {
-  const std::size_t end = m_size + piece.size();
-  if (end > m_line.size()) {
-    m_line.resize(std::max(end, 2 * m_line.size()));
-  }
-  piece.copy(&m_line[m_size], piece.size());
-  m_size = end;
-}
-
-void JsonObjectWriter::Put(char c) {
-  if (m_size == m_line.size()) {
-    m_line.resize(2 * m_line.size());
-  }
-  m_line[m_size++] = c;
+  m_line.Put('{');
 }
 
 void JsonObjectWriter::Key(std::string_view key) {
   if (!m_first) {
-    Put(',');
+    m_line.Put(',');
   }
   m_first = false;
-  Put('"');
-  Put(key);
-  Put("\":");
+  m_line.Put('"');
+  m_line.Put(key);
+  m_line.Put("\":");
 }
 
 void JsonObjectWriter::String(std::string_view key, std::string_view value) {
@@ -70,11 +49,11 @@ void JsonObjectWriter::String(std::string_view key, std::string_view value) {
 
 void JsonObjectWriter::PutString(std::string_view value) {
   if (IsPlain(value)) {
-    Put('"');
-    Put(value);
-    Put('"');
+    m_line.Put('"');
+    m_line.Put(value);
+    m_line.Put('"');
   } else {
-    Put(JsonLine(Json(value)));
+    m_line.Put(JsonLine(Json(value)));
   }
 }
 
@@ -83,25 +62,25 @@ void JsonObjectWriter::Text(std::string_view key, const char* value) {
   if (value != nullptr) {
     PutString(value);
   } else {
-    Put("null");
+    m_line.Put("null");
   }
 }
 
 void JsonObjectWriter::Bool(std::string_view key, bool value) {
   Key(key);
-  Put(value ? "true" : "false");
+  m_line.Put(value ? "true" : "false");
 }
 
 void JsonObjectWriter::Signed(std::string_view key, std::int64_t value) {
   std::array<char, NumberSize> text{};
   Key(key);
-  Put(IntegerText(value, text));
+  m_line.Put(IntegerText(value, text));
 }
 
 void JsonObjectWriter::Unsigned(std::string_view key, std::uint64_t value) {
   std::array<char, NumberSize> text{};
   Key(key);
-  Put(IntegerText(value, text));
+  m_line.Put(IntegerText(value, text));
 }
 
 void JsonObjectWriter::Number(std::string_view key, double value) {
@@ -113,24 +92,24 @@ void JsonObjectWriter::Number(std::string_view key, double value) {
   std::array<char, NumberSize> text{};
   const char* end = nlohmann::detail::to_chars(text.data(), text.data() + text.size(), value);
   Key(key);
-  Put(std::string_view(text.data(), static_cast<std::size_t>(end - text.data())));
+  m_line.Put(std::string_view(text.data(), static_cast<std::size_t>(end - text.data())));
 }
 
 void JsonObjectWriter::Null(std::string_view key) {
   Key(key);
-  Put("null");
+  m_line.Put("null");
 }
 
 void JsonObjectWriter::Texts(std::string_view key, const char* const* values, std::size_t count) {
   Key(key);
-  Put('[');
+  m_line.Put('[');
   for (std::size_t i = 0; i < count; ++i) {
     if (i > 0) {
-      Put(',');
+      m_line.Put(',');
     }
     PutString(values[i]);
   }
-  Put(']');
+  m_line.Put(']');
 }
 
 void JsonObjectWriter::Value(std::string_view key, const Json& value) {
@@ -146,20 +125,20 @@ void JsonObjectWriter::Value(std::string_view key, const Json& value) {
     Number(key, value.get<double>());
   } else {
     Key(key);
-    Put(value.is_null() ? "null" : JsonLine(value));
+    m_line.Put(value.is_null() ? "null" : JsonLine(value));
   }
 }
 
 void JsonObjectWriter::Open(std::string_view key) {
   Key(key);
-  Put('{');
+  m_line.Put('{');
   m_first = true;
 }
 
 void JsonObjectWriter::Close() {
-  Put('}');
+  m_line.Put('}');
   m_first = false;
-  m_line.resize(m_size);
+  m_line.Finish();
 }
 
 }  // namespace Knxconv

@@ -4,6 +4,7 @@
 #include <string>
 #include <string_view>
 
+#include "LineBuffer.h"
 #include "Output.h"
 
 namespace Knxconv {
@@ -39,13 +40,8 @@ class JsonObjectWriter {
  private:
   void Key(std::string_view key);
   void PutString(std::string_view value);
-  // Writes at m_size over the line's bytes: appending to the string piece
-  // by piece costs more than the member's bytes.
-  void Put(std::string_view piece);
-  void Put(char c);
 
-  std::string& m_line;
-  std::size_t m_size = 0;
+  LineBuffer m_line;
   bool m_first = true;
 };
 

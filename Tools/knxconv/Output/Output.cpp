@@ -11,6 +11,7 @@
 #include "ConverterInfo.h"
 #include "DptText.h"
 #include "JsonWriter.h"
+#include "LineBuffer.h"
 #include "TextEscape.h"
 #include "ValueDisplay.h"
 #include "ValueText.h"
@@ -223,11 +224,11 @@ Json TableJson(const std::vector<TableRow>& rows) {
 
 namespace {
 
-// Appends text and blanks up to width, without a temporary of its own.
-void AppendPadded(std::string& line, std::string_view text, std::size_t width) {
-  line.append(text);
+// text and blanks up to width.
+void PutPadded(LineBuffer& line, std::string_view text, std::size_t width) {
+  line.Put(text);
   if (text.size() < width) {
-    line.append(width - text.size(), ' ');
+    line.PutBlanks(width - text.size());
   }
 }
 
@@ -239,24 +240,28 @@ std::string TraceText(const TraceResult& result) {
   return text;
 }
 
-void TraceText(const TraceResult& result, std::string& line) {
+void TraceText(const TraceResult& result, std::string& text) {
   const Telegram& telegram = result.telegram;
-  line.assign(telegram.time).append("  ");
-  AppendPadded(line, telegram.source, AddressWidth);
-  line.append(" -> ");
-  AppendPadded(line, telegram.destination, AddressWidth);
-  line.append("  ");
-  AppendPadded(line, TraceDpt(result), DptWidth);
-  line.append(" ");
-  AppendPadded(line, telegram.payload, PayloadWidth);
-  line.append(" ");
+  LineBuffer line(text);
+  line.Put(telegram.time);
+  line.Put("  ");
+  PutPadded(line, telegram.source, AddressWidth);
+  line.Put(" -> ");
+  PutPadded(line, telegram.destination, AddressWidth);
+  line.Put("  ");
+  PutPadded(line, TraceDpt(result), DptWidth);
+  line.Put(' ');
+  PutPadded(line, telegram.payload, PayloadWidth);
+  line.Put(' ');
   if (!result.converted) {
-    line.append("error: ").append(result.error);
-    return;
+    line.Put("error: ");
+    line.Put(result.error);
+  } else {
+    line.Put(DecodeText(result));
+    // An empty value leaves no blanks at the end of the line.
+    line.TrimEnd();
   }
-  line += DecodeText(result);
-  // An empty value leaves no blanks at the end of the line.
-  line.erase(line.find_last_not_of(' ') + 1);
+  line.Finish();
 }
 
 void TraceJson(const TraceResult& result, std::string& line) {
