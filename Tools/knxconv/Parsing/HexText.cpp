@@ -10,17 +10,25 @@ namespace Knxconv {
 
 namespace {
 
+// The value of each hex digit by its byte, -1 for other bytes: a payload's
+// digits are each looked up twice, to check and to read them.
+constexpr std::array<signed char, 256> HexDigits = [] {
+  std::array<signed char, 256> digits{};
+  for (signed char& digit : digits) {
+    digit = -1;
+  }
+  for (int i = 0; i < 10; ++i) {
+    digits['0' + i] = static_cast<signed char>(i);
+  }
+  for (int i = 0; i < 6; ++i) {
+    digits['a' + i] = static_cast<signed char>(10 + i);
+    digits['A' + i] = static_cast<signed char>(10 + i);
+  }
+  return digits;
+}();
+
 int HexDigit(char c) {
-  if (c >= '0' && c <= '9') {
-    return c - '0';
-  }
-  if (c >= 'a' && c <= 'f') {
-    return c - 'a' + 10;
-  }
-  if (c >= 'A' && c <= 'F') {
-    return c - 'A' + 10;
-  }
-  return -1;
+  return HexDigits[static_cast<unsigned char>(c)];
 }
 
 constexpr std::size_t ShortBytes = 64;
