@@ -54,14 +54,31 @@ KnxStack::BinaryData PayloadBytes(const std::string& payload) {
   return data;
 }
 
+// ConvertGroupValue, the row found through rows where given.
+void Convert(const Nelmo::KnxValueConverter& converter, const KnxStack::GroupValue& groupValue, TraceResult& result,
+             ValueTextForm text, RowCache* rows) {
+  const KnxStack::BinaryData& data = groupValue.GetRawData();
+  result.bytes.assign(data.GetData(), data.GetData() + data.GetLength());
+  result.converted = converter.FromKnxValue(*result.dpt, groupValue, result.value);
+  if (result.converted) {
+    // After the conversion: the library completes the DPT it was given.
+    const Nelmo::DptValueEntry& entry =
+        rows != nullptr ? rows->Row(converter, *result.dpt) : QuietEntry(converter, *result.dpt);
+    result.subType = entry.subType;
+    if (text == ValueTextForm::Made) {
+      result.text = DisplayText(entry.GetConverter(), *result.dpt, result.value, groupValue);
+    }
+  }
+}
+
 // Decode from the payload's bytes.
 void DecodeBytes(const Nelmo::KnxValueConverter& converter, const KnxStack::BinaryData& data, int bits,
-                 TraceResult& result, ValueTextForm text) {
+                 TraceResult& result, ValueTextForm text, RowCache* rows) {
   if (auto error = PayloadSizeError(*result.dpt, static_cast<unsigned int>(bits), data)) {
     result.error = std::move(*error);
     return;
   }
-  ConvertGroupValue(converter, KnxStack::GroupValue(data, GroupValueBits(*result.dpt, bits, data)), result, text);
+  Convert(converter, KnxStack::GroupValue(data, GroupValueBits(*result.dpt, bits, data)), result, text, rows);
 }
 
 }  // namespace
@@ -79,17 +96,17 @@ KNXDPT DptWithBits(const std::string& text, int bits) {
 
 void Decode(const Nelmo::KnxValueConverter& converter, const std::string& payload, int bits, TraceResult& result,
             ValueTextForm text) {
-  DecodeBytes(converter, PayloadBytes(payload), bits, result, text);
+  DecodeBytes(converter, PayloadBytes(payload), bits, result, text, nullptr);
 }
 
 void DecodeOrRefuse(const Nelmo::KnxValueConverter& converter, const std::string& payload, TraceResult& result,
-                    ValueTextForm text) {
+                    ValueTextForm text, RowCache& rows) {
   KnxStack::BinaryData data;
   if (std::optional<std::string> error = ReadPayload(payload, data)) {
     result.error = std::move(*error);
     return;
   }
-  DecodeBytes(converter, data, 0, result, text);
+  DecodeBytes(converter, data, 0, result, text, &rows);
 }
 
 KnxStack::GroupValue PayloadGroupValue(const KNXDPT& dpt, const std::string& payload, int bits) {
@@ -99,16 +116,7 @@ KnxStack::GroupValue PayloadGroupValue(const KNXDPT& dpt, const std::string& pay
 
 void ConvertGroupValue(const Nelmo::KnxValueConverter& converter, const KnxStack::GroupValue& groupValue,
                        TraceResult& result, ValueTextForm text) {
-  const KnxStack::BinaryData& data = groupValue.GetRawData();
-  result.bytes.assign(data.GetData(), data.GetData() + data.GetLength());
-  result.converted = converter.FromKnxValue(*result.dpt, groupValue, result.value);
-  if (result.converted) {
-    const Nelmo::DptValueEntry& entry = QuietEntry(converter, *result.dpt);
-    result.subType = entry.subType;
-    if (text == ValueTextForm::Made) {
-      result.text = DisplayText(entry.GetConverter(), *result.dpt, result.value, groupValue);
-    }
-  }
+  Convert(converter, groupValue, result, text, nullptr);
 }
 
 ULOVALUE ValueToSend(const Nelmo::KnxValueConverter& converter, const KNXDPT& dpt, const Arguments& arguments) {

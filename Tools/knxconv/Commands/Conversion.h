@@ -7,6 +7,7 @@
 #include "KnxValueConverterApi.h"
 #include "Output.h"
 #include "OutputContext.h"
+#include "RowCache.h"
 
 namespace Knxconv {
 
@@ -28,8 +29,9 @@ void Decode(const Nelmo::KnxValueConverter& converter, const std::string& payloa
 // As Decode with the DPT's size, but a payload that is not hex is refused in
 // result.error, as one of the wrong size is, instead of thrown: a trace may
 // hold many, and a throw costs more than a conversion.
+// rows finds the rows of converter.
 void DecodeOrRefuse(const Nelmo::KnxValueConverter& converter, const std::string& payload, TraceResult& result,
-                    ValueTextForm text);
+                    ValueTextForm text, RowCache& rows);
 
 // The group value of hex payload as Decode reads it. Throws InputError.
 KnxStack::GroupValue PayloadGroupValue(const KNXDPT& dpt, const std::string& payload, int bits);

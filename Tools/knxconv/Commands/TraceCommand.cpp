@@ -21,10 +21,16 @@ constexpr const char* FileHelp =
     "                      (its line says why), 2 when the trace cannot be read or is not\n"
     "                      a trace, or the output cannot be written";
 
+// What decoding keeps from telegram to telegram.
+struct Decoder {
+  Nelmo::KnxValueConverter converter;
+  DptCache dpts;
+  RowCache rows;
+};
+
 // Decodes result.telegram into result, whose strings keep their capacity from
 // telegram to telegram.
-void DecodeTelegram(const Nelmo::KnxValueConverter& converter, DptCache& dpts, OutputContext& context,
-                    TraceResult& result) {
+void DecodeTelegram(Decoder& decoder, OutputContext& context, TraceResult& result) {
   const Telegram& telegram = result.telegram;
   result.dpt.reset();
   result.converted = false;
@@ -37,10 +43,10 @@ void DecodeTelegram(const Nelmo::KnxValueConverter& converter, DptCache& dpts, O
     return;
   }
   try {
-    result.dpt = dpts.Parse(telegram.dpt);
+    result.dpt = decoder.dpts.Parse(telegram.dpt);
     context.TakeLogErrors();
-    DecodeOrRefuse(converter, telegram.payload, result,
-                   context.IsJson() ? ValueTextForm::Skipped : ValueTextForm::Made);
+    DecodeOrRefuse(decoder.converter, telegram.payload, result,
+                   context.IsJson() ? ValueTextForm::Skipped : ValueTextForm::Made, decoder.rows);
     if (!result.converted && result.error.empty()) {
       result.error = context.TakeLogErrors();
     }
@@ -77,14 +83,13 @@ int RunTrace(const Arguments& arguments, OutputContext& context) {
   context.FlushEachLine(name == StandardInput);
   std::istream& source = name == StandardInput ? context.In() : file;
   TraceReader reader(source);
-  const Nelmo::KnxValueConverter converter;
-  DptCache dpts;
+  Decoder decoder;
   bool allConverted = true;
   TraceResult result;
   std::string line;
   // Reading stops where the output cannot be written.
   while (!context.OutputFailed() && reader.Next(result.telegram)) {
-    DecodeTelegram(converter, dpts, context, result);
+    DecodeTelegram(decoder, context, result);
     allConverted = allConverted && result.converted;
     // Only the form that is printed is built: this runs once per telegram.
     if (context.IsJson()) {

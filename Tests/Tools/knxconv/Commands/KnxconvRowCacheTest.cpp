@@ -1,0 +1,40 @@
+#include <gtest/gtest.h>
+
+#include <cstdint>
+
+#include "Conversion.h"
+#include "MakeDpt.h"
+#include "RowCache.h"
+
+namespace {
+
+using namespace Knxconv;
+
+using TestSupport::MakeDpt;
+
+struct RowCase {
+  std::uint16_t mainNumber;
+  std::uint16_t subNumber;
+  UloValueType valueType;  // IVT_ANY: the library has no row
+};
+
+const RowCase RowCases[] = {
+    {9, 1, IVT_DOUBLE}, {9, 4, IVT_DOUBLE}, {1, 8, IVT_BOOL}, {10, 1, IVT_TIME}, {29, 10, IVT_ANY},
+};
+
+// Asked twice: the second answer comes from the cache and is the library's
+// own row, as QuietEntry finds it.
+TEST(RowCache, AnswersWithTheLibrarysRow) {
+  const Nelmo::KnxValueConverter converter;
+  RowCache rows;
+  for (int round = 0; round < 2; ++round) {
+    for (const RowCase& row : RowCases) {
+      const KNXDPT dpt = MakeDpt(row.mainNumber, row.subNumber);
+      const Nelmo::DptValueEntry& found = rows.Row(converter, dpt);
+      EXPECT_EQ(&found, &QuietEntry(converter, dpt)) << row.mainNumber << "." << row.subNumber;
+      EXPECT_EQ(found.valueType, row.valueType) << row.mainNumber << "." << row.subNumber;
+    }
+  }
+}
+
+}  // namespace
