@@ -1,8 +1,5 @@
 #include "Conversion.h"
 
-#include <algorithm>
-#include <cctype>
-
 #include "CalendarCheck.h"
 #include "CatalogueInput.h"
 #include "DptText.h"
@@ -35,13 +32,11 @@ unsigned int GroupValueBits(const KNXDPT& dpt, int bits, const KnxStack::BinaryD
 }
 
 // The payload's bytes into data, or why it is not hex. Most payloads are hex
-// pairs and blanks already and need no normalised copy.
+// pairs and blanks already, and read as they are just as normalised; only
+// the others need a normalised copy, which also words the refusal.
 std::optional<std::string> ReadPayload(const std::string& payload, KnxStack::BinaryData& data) {
-  const bool plain = std::all_of(payload.begin(), payload.end(), [](const char c) {
-    return c == ' ' || std::isxdigit(static_cast<unsigned char>(c)) != 0;
-  });
-  if (plain) {
-    return ReadHex(payload, data);
+  if (!ReadHex(payload, data)) {
+    return std::nullopt;
   }
   return ReadHex(NormaliseHex(payload), data);
 }
