@@ -94,8 +94,13 @@ void OutputContext::WriteLine() {
   }
   m_line += '\n';
   errno = 0;
-  // One write per line: the stream's buffer gathers them.
-  m_out.write(m_line.data(), static_cast<std::streamsize>(m_line.size()));
+  // One piece per line, straight into the stream's buffer, which gathers
+  // the lines; a failed write fails the stream as its own write would.
+  const auto size = static_cast<std::streamsize>(m_line.size());
+  std::streambuf* buffer = m_out.rdbuf();
+  if (buffer == nullptr || buffer->sputn(m_line.data(), size) != size) {
+    m_out.setstate(std::ios::badbit);
+  }
   CheckOutput();
   if (m_flushEachLine) {
     FlushOutput();
