@@ -13,6 +13,15 @@ namespace {
 constexpr std::size_t FieldCount = 5;
 using Fields = std::array<std::string_view, FieldCount>;
 
+// Trim, called only for a field that starts or ends with a blank: few do.
+std::string_view TrimField(std::string_view field) {
+  const auto blank = [](char c) { return c == ' ' || c == '\t' || c == '\r' || c == '\n'; };
+  if (field.empty() || (!blank(field.front()) && !blank(field.back()))) {
+    return field;
+  }
+  return Trim(field);
+}
+
 // The line's fields as views into it, blanks around them cut, at most
 // FieldCount of them kept: a line per telegram allocates nothing. Returns how
 // many fields the line has.
@@ -23,7 +32,7 @@ std::size_t SplitFields(std::string_view line, Fields& fields) {
     const std::size_t comma = line.find(',', start);
     if (count < FieldCount) {
       fields[count] =
-          Trim(line.substr(start, comma == std::string_view::npos ? std::string_view::npos : comma - start));
+          TrimField(line.substr(start, comma == std::string_view::npos ? std::string_view::npos : comma - start));
     }
     ++count;
     if (comma == std::string_view::npos) {
