@@ -49,6 +49,15 @@ KnxStack::BinaryData PayloadBytes(const std::string& payload) {
   return data;
 }
 
+// The row of dpt: from rows where given, else looked up with its scale.
+CachedRow RowOf(const Nelmo::KnxValueConverter& converter, const KNXDPT& dpt, RowCache* rows) {
+  if (rows != nullptr) {
+    return rows->Find(converter, dpt);
+  }
+  const Nelmo::DptValueEntry& entry = QuietEntry(converter, dpt);
+  return {&entry, ScaleOf(entry.GetConverter())};
+}
+
 // ConvertGroupValue, the row found through rows where given.
 void Convert(const Nelmo::KnxValueConverter& converter, const KnxStack::GroupValue& groupValue, TraceResult& result,
              ValueTextForm text, RowCache* rows) {
@@ -57,11 +66,10 @@ void Convert(const Nelmo::KnxValueConverter& converter, const KnxStack::GroupVal
   result.converted = converter.FromKnxValue(*result.dpt, groupValue, result.value);
   if (result.converted) {
     // After the conversion: the library completes the DPT it was given.
-    const Nelmo::DptValueEntry& entry =
-        rows != nullptr ? rows->Row(converter, *result.dpt) : QuietEntry(converter, *result.dpt);
-    result.subType = entry.subType;
+    const CachedRow row = RowOf(converter, *result.dpt, rows);
+    result.subType = row.entry->subType;
     if (text == ValueTextForm::Made) {
-      result.text = DisplayText(entry.GetConverter(), *result.dpt, result.value, groupValue);
+      result.text = DisplayText(row.entry->GetConverter(), row.scale, *result.dpt, result.value, groupValue);
     }
   }
 }

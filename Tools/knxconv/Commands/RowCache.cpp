@@ -4,14 +4,15 @@
 
 namespace Knxconv {
 
-const Nelmo::DptValueEntry& RowCache::Row(const Nelmo::KnxValueConverter& converter, const KNXDPT& dpt) {
+const CachedRow& RowCache::Find(const Nelmo::KnxValueConverter& converter, const KNXDPT& dpt) {
   constexpr unsigned SubBits = 16;
   const std::uint32_t key = (static_cast<std::uint32_t>(dpt.mainNumber) << SubBits) | dpt.subNumber;
   auto found = m_rows.find(key);
   if (found == m_rows.end()) {
-    found = m_rows.emplace(key, &QuietEntry(converter, dpt)).first;
+    const Nelmo::DptValueEntry& entry = QuietEntry(converter, dpt);
+    found = m_rows.emplace(key, CachedRow{&entry, ScaleOf(entry.GetConverter())}).first;
   }
-  return *found->second;
+  return found->second;
 }
 
 }  // namespace Knxconv

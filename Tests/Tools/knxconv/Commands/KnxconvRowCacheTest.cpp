@@ -23,16 +23,19 @@ const RowCase RowCases[] = {
 };
 
 // Asked twice: the second answer comes from the cache and is the library's
-// own row, as QuietEntry finds it.
-TEST(RowCache, AnswersWithTheLibrarysRow) {
+// own row, as QuietEntry finds it, with its scale.
+TEST(RowCache, AnswersWithTheLibrarysRowAndItsScale) {
   const Nelmo::KnxValueConverter converter;
   RowCache rows;
   for (int round = 0; round < 2; ++round) {
     for (const RowCase& row : RowCases) {
       const KNXDPT dpt = MakeDpt(row.mainNumber, row.subNumber);
-      const Nelmo::DptValueEntry& found = rows.Row(converter, dpt);
-      EXPECT_EQ(&found, &QuietEntry(converter, dpt)) << row.mainNumber << "." << row.subNumber;
-      EXPECT_EQ(found.valueType, row.valueType) << row.mainNumber << "." << row.subNumber;
+      const CachedRow& found = rows.Find(converter, dpt);
+      EXPECT_EQ(found.entry, &QuietEntry(converter, dpt)) << row.mainNumber << "." << row.subNumber;
+      EXPECT_EQ(found.entry->valueType, row.valueType) << row.mainNumber << "." << row.subNumber;
+      const NumberScale scale = ScaleOf(found.entry->GetConverter());
+      EXPECT_EQ(found.scale.floats, scale.floats) << row.mainNumber << "." << row.subNumber;
+      EXPECT_EQ(found.scale.scaled, scale.scaled) << row.mainNumber << "." << row.subNumber;
     }
   }
 }
