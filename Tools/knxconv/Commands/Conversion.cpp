@@ -55,7 +55,7 @@ CachedRow RowOf(const Nelmo::KnxValueConverter& converter, const KNXDPT& dpt, Ro
     return rows->Find(converter, dpt);
   }
   const Nelmo::DptValueEntry& entry = QuietEntry(converter, dpt);
-  return {&entry, ScaleOf(entry.GetConverter())};
+  return {&entry, ScaleOf(entry.GetConverter()), SubtypeOf(dpt)};
 }
 
 // ConvertGroupValue, the row found through rows where given.
@@ -68,6 +68,7 @@ void Convert(const Nelmo::KnxValueConverter& converter, const KnxStack::GroupVal
     // After the conversion: the library completes the DPT it was given.
     const CachedRow row = RowOf(converter, *result.dpt, rows);
     result.subType = row.entry->subType;
+    result.catalogueSubtype = row.subtype;
     if (text == ValueTextForm::Made) {
       result.text = DisplayText(row.entry->GetConverter(), row.scale, *result.dpt, result.value, groupValue);
     }

@@ -1,5 +1,6 @@
 #include "RowCache.h"
 
+#include "CatalogueInput.h"
 #include "Conversion.h"
 
 namespace Knxconv {
@@ -10,7 +11,7 @@ const CachedRow& RowCache::Find(const Nelmo::KnxValueConverter& converter, const
   auto found = m_rows.find(key);
   if (found == m_rows.end()) {
     const Nelmo::DptValueEntry& entry = QuietEntry(converter, dpt);
-    found = m_rows.emplace(key, CachedRow{&entry, ScaleOf(entry.GetConverter())}).first;
+    found = m_rows.emplace(key, CachedRow{&entry, ScaleOf(entry.GetConverter()), SubtypeOf(dpt)}).first;
   }
   return found->second;
 }

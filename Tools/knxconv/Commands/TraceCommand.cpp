@@ -37,6 +37,7 @@ void DecodeTelegram(Decoder& decoder, OutputContext& context, TraceResult& resul
   result.value = ULOVALUE();
   result.text.clear();
   result.subType = UloDP::IVST_NONE;
+  result.catalogueSubtype.reset();
   result.bytes.clear();
   result.error = telegram.error;
   if (!telegram.error.empty()) {

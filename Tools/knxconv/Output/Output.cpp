@@ -95,8 +95,13 @@ class ValueMember {
   JsonObjectWriter& m_json;
 };
 
+// The catalogue's sub-type of the result's DPT.
+const Nelmo::DptSubtype* Subtype(const TraceResult& result) {
+  return result.catalogueSubtype ? *result.catalogueSubtype : SubtypeOf(*result.dpt);
+}
+
 ValueDisplay Display(const TraceResult& result) {
-  return DisplayValue(*result.dpt, result.value, result.bytes,
+  return DisplayValue(*result.dpt, Subtype(result), result.value, result.bytes,
                       result.text.empty() ? result.value.ToString() : result.text);
 }
 
@@ -280,7 +285,7 @@ void TraceJson(const TraceResult& result, std::string& line) {
     json.String("subtype", ValueSubTypeText(result.subType));
     VisitValue(result.value, ValueMember(json));
     // The display's text is not written.
-    WriteDisplayMembers(DisplayValue(*result.dpt, result.value, result.bytes, std::string()), json);
+    WriteDisplayMembers(DisplayValue(*result.dpt, Subtype(result), result.value, result.bytes, std::string()), json);
   }
   json.Close();
 }

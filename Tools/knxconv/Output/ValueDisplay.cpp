@@ -3,6 +3,7 @@
 #include <array>
 #include <cmath>
 #include <cstdio>
+#include <utility>
 
 #include "CatalogueInput.h"
 #include "ValueText.h"
@@ -173,7 +174,11 @@ void WriteField(const DisplayField& field, JsonObjectWriter& json) {
 
 ValueDisplay DisplayValue(const KNXDPT& dpt, const ULOVALUE& value, const std::vector<unsigned char>& bytes,
                           std::string valueText) {
-  const Nelmo::DptSubtype* subtype = SubtypeOf(dpt);
+  return DisplayValue(dpt, SubtypeOf(dpt), value, bytes, std::move(valueText));
+}
+
+ValueDisplay DisplayValue(const KNXDPT& dpt, const Nelmo::DptSubtype* subtype, const ULOVALUE& value,
+                          const std::vector<unsigned char>& bytes, std::string valueText) {
   ValueDisplay display;
   display.text = std::move(valueText);
   if (subtype != nullptr) {

@@ -47,6 +47,9 @@ struct ValueDisplay {
 // text; structured forms read their fields from those bytes.
 ValueDisplay DisplayValue(const KNXDPT& dpt, const ULOVALUE& value, const std::vector<unsigned char>& bytes,
                           std::string valueText);
+// The same with dpt's sub-type in the catalogue (SubtypeOf) at hand.
+ValueDisplay DisplayValue(const KNXDPT& dpt, const Nelmo::DptSubtype* subtype, const ULOVALUE& value,
+                          const std::vector<unsigned char>& bytes, std::string valueText);
 
 // The JSON members of display, in their order.
 void WriteDisplayMembers(const ValueDisplay& display, JsonObjectWriter& json);

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 
+#include "CatalogueInput.h"
 #include "Conversion.h"
 #include "MakeDpt.h"
 #include "RowCache.h"
@@ -36,6 +37,7 @@ TEST(RowCache, AnswersWithTheLibrarysRowAndItsScale) {
       const NumberScale scale = ScaleOf(found.entry->GetConverter());
       EXPECT_EQ(found.scale.floats, scale.floats) << row.mainNumber << "." << row.subNumber;
       EXPECT_EQ(found.scale.scaled, scale.scaled) << row.mainNumber << "." << row.subNumber;
+      EXPECT_EQ(found.subtype, SubtypeOf(dpt)) << row.mainNumber << "." << row.subNumber;
     }
   }
 }
