@@ -39,8 +39,9 @@ void DecodeTelegram(Decoder& decoder, OutputContext& context, TraceResult& resul
   result.subType = UloDP::IVST_NONE;
   result.catalogueSubtype.reset();
   result.bytes.clear();
-  result.error = telegram.error;
+  result.error.clear();
   if (!telegram.error.empty()) {
+    result.error = telegram.error;
     return;
   }
   try {

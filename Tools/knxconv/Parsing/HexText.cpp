@@ -10,8 +10,7 @@ namespace Knxconv {
 
 namespace {
 
-// The value of each hex digit by its byte, -1 for other bytes: a payload's
-// digits are each looked up twice, to check and to read them.
+// The value of each hex digit by its byte, -1 for other bytes.
 constexpr std::array<signed char, 256> HexDigits = [] {
   std::array<signed char, 256> digits{};
   for (signed char& digit : digits) {
@@ -67,20 +66,25 @@ std::optional<std::string> ReadHex(std::string_view text, KnxStack::BinaryData& 
       ++position;
       continue;
     }
-    // One group of pairs up to the next blank.
+    // One group of pairs up to the next blank, read as it is checked.
     std::size_t end = position;
+    int high = 0;
     while (end < text.size() && !IsBlank(text[end])) {
-      if (HexDigit(text[end]) < 0) {
+      const int digit = HexDigit(text[end]);
+      if (digit < 0) {
         return Refusal(text, std::string("'") + text[end] + "' is not a hex digit");
+      }
+      if ((end - position) % 2 == 0) {
+        high = digit;
+      } else {
+        bytes[count++] = static_cast<unsigned char>(high * 16 + digit);
       }
       ++end;
     }
     if ((end - position) % 2 != 0) {
       return Refusal(text, "'" + std::string(text.substr(position, end - position)) + "' is not made of whole bytes");
     }
-    for (; position < end; position += 2) {
-      bytes[count++] = static_cast<unsigned char>(HexDigit(text[position]) * 16 + HexDigit(text[position + 1]));
-    }
+    position = end;
   }
   if (count == 0) {
     return Refusal(text, "no bytes");
