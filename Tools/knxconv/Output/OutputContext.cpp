@@ -22,9 +22,14 @@ std::string OutputContext::TakeLogErrors() {
 }
 
 void OutputContext::PrintLine(std::string_view text) {
+  // Most lines need no escape and are written as they are.
+  if (IsPlainText(text)) {
+    WriteLine(text);
+    return;
+  }
   m_line.clear();
   AppendEscapedText(m_line, text);
-  WriteLine();
+  WriteLine(m_line);
 }
 
 void OutputContext::PrintJson(const Json& json) {
@@ -32,8 +37,7 @@ void OutputContext::PrintJson(const Json& json) {
 }
 
 void OutputContext::PrintJsonLine(const std::string& line) {
-  m_line.assign(line);
-  WriteLine();
+  WriteLine(line);
 }
 
 void OutputContext::PrintText(std::string_view text) {
@@ -88,17 +92,17 @@ int OutputContext::Finish(int status) {
   return ExitUsage;
 }
 
-void OutputContext::WriteLine() {
+void OutputContext::WriteLine(std::string_view line) {
   if (OutputFailed()) {
     return;
   }
-  m_line += '\n';
   errno = 0;
-  // One piece per line, straight into the stream's buffer, which gathers
-  // the lines; a failed write fails the stream as its own write would.
-  const auto size = static_cast<std::streamsize>(m_line.size());
+  // Straight into the stream's buffer, which gathers the lines; a failed
+  // write fails the stream as its own write would.
+  const auto size = static_cast<std::streamsize>(line.size());
   std::streambuf* buffer = m_out.rdbuf();
-  if (buffer == nullptr || buffer->sputn(m_line.data(), size) != size) {
+  if (buffer == nullptr || buffer->sputn(line.data(), size) != size ||
+      buffer->sputc('\n') == std::char_traits<char>::eof()) {
     m_out.setstate(std::ios::badbit);
   }
   CheckOutput();

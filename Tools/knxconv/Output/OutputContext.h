@@ -67,9 +67,9 @@ class OutputContext {
   int Finish(int status);
 
  private:
-  // Writes m_line, a line that is ready to print, with its line end, unless
-  // output already failed.
-  void WriteLine();
+  // Writes a line that is ready to print and its line end, unless output
+  // already failed.
+  void WriteLine(std::string_view line);
   // Standard output is flushed before anything goes to standard error: the
   // lines keep their order, and a failed write is seen with its errno (a
   // tied stream's flush would lose it).
@@ -83,7 +83,7 @@ class OutputContext {
   std::unique_ptr<LogForwarder> m_log;
   int m_writeError = 0;
   bool m_flushEachLine = false;
-  // The line being written, kept so that its capacity is.
+  // A line being escaped, kept so that its capacity is.
   std::string m_line;
 };
 

@@ -153,6 +153,10 @@ void AppendEscapedText(std::string& escaped, std::string_view text) {
   }
 }
 
+bool IsPlainText(std::string_view text) {
+  return PlainPrefix(text) == text.size();
+}
+
 std::string EscapeJsonControls(std::string_view json) {
   std::string escaped;
   escaped.reserve(json.size());

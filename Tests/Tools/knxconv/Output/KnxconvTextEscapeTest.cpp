@@ -83,6 +83,28 @@ TEST_P(TextEscape, JsonEscapesControlCharactersAndReplacesInvalidBytes) {
 INSTANTIATE_TEST_SUITE_P(Texts, TextEscape, ::testing::ValuesIn(EscapeCases),
                          [](const ::testing::TestParamInfo<EscapeCase>& info) { return info.param.name; });
 
+struct PlainCase {
+  const char* text;
+  bool plain;  // EscapeText leaves it as it is, byte for byte ASCII
+};
+
+const PlainCase PlainCases[] = {
+    {"06:00:00.015  1.1.1     -> 0/0/1 ~", true},
+    {"", true},
+    {"21.5 \xC2\xB0"
+     "C",
+     false},
+    {R"(a\b)", false},
+    {"12345678\tb", false},
+    {"1234567812345678\x7F", false},
+};
+
+TEST(TextEscape, TellsPlainTextApart) {
+  for (const PlainCase& row : PlainCases) {
+    EXPECT_EQ(IsPlainText(row.text), row.plain) << row.text;
+  }
+}
+
 TEST(TextEscapeJson, LeavesEverythingOutsideStringsAsItIs) {
   EXPECT_EQ(EscapeJsonControls("{\"a\":[1,2.5,null]}"), "{\"a\":[1,2.5,null]}");
 }
