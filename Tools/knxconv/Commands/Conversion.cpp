@@ -4,6 +4,7 @@
 #include "CatalogueInput.h"
 #include "DptText.h"
 #include "HexText.h"
+#include "InputError.h"
 #include "LogForwarder.h"
 #include "NumberDisplay.h"
 #include "PayloadSize.h"
@@ -30,6 +31,60 @@ unsigned int GroupValueBits(const KNXDPT& dpt, int bits, const KnxStack::BinaryD
   return 8U * data.GetLength();
 }
 
+// The payload's bytes into data, or why it is not hex. Most payloads are hex
+// pairs and blanks already, and read as they are just as normalised; only
+// the others need a normalised copy, which also words the refusal.
+std::optional<std::string> ReadPayload(const std::string& payload, KnxStack::BinaryData& data) {
+  if (!ReadHex(payload, data)) {
+    return std::nullopt;
+  }
+  return ReadHex(NormaliseHex(payload), data);
+}
+
+KnxStack::BinaryData PayloadBytes(const std::string& payload) {
+  KnxStack::BinaryData data;
+  if (std::optional<std::string> error = ReadPayload(payload, data)) {
+    throw InputError(*error);
+  }
+  return data;
+}
+
+// The row of dpt: from rows where given, else looked up with its scale.
+CachedRow RowOf(const Nelmo::KnxValueConverter& converter, const KNXDPT& dpt, RowCache* rows) {
+  if (rows != nullptr) {
+    return rows->Find(converter, dpt);
+  }
+  const Nelmo::DptValueEntry& entry = QuietEntry(converter, dpt);
+  return {&entry, ScaleOf(entry.GetConverter()), SubtypeOf(dpt)};
+}
+
+// ConvertGroupValue, the row found through rows where given.
+void Convert(const Nelmo::KnxValueConverter& converter, const KnxStack::GroupValue& groupValue, TraceResult& result,
+             ValueTextForm text, RowCache* rows) {
+  const KnxStack::BinaryData& data = groupValue.GetRawData();
+  result.bytes.assign(data.GetData(), data.GetData() + data.GetLength());
+  result.converted = converter.FromKnxValue(*result.dpt, groupValue, result.value);
+  if (result.converted) {
+    // After the conversion: the library completes the DPT it was given.
+    const CachedRow row = RowOf(converter, *result.dpt, rows);
+    result.subType = row.entry->subType;
+    result.catalogueSubtype = row.subtype;
+    if (text == ValueTextForm::Made) {
+      result.text = DisplayText(row.entry->GetConverter(), row.scale, *result.dpt, result.value, groupValue);
+    }
+  }
+}
+
+// Decode from the payload's bytes.
+void DecodeBytes(const Nelmo::KnxValueConverter& converter, const KnxStack::BinaryData& data, int bits,
+                 TraceResult& result, ValueTextForm text, RowCache* rows) {
+  if (auto error = PayloadSizeError(*result.dpt, static_cast<unsigned int>(bits), data)) {
+    result.error = std::move(*error);
+    return;
+  }
+  Convert(converter, KnxStack::GroupValue(data, GroupValueBits(*result.dpt, bits, data)), result, text, rows);
+}
+
 }  // namespace
 
 const Nelmo::DptValueEntry& QuietEntry(const Nelmo::KnxValueConverter& converter, const KNXDPT& dpt) {
@@ -43,30 +98,29 @@ KNXDPT DptWithBits(const std::string& text, int bits) {
   return dpt;
 }
 
-void Decode(const Nelmo::KnxValueConverter& converter, const std::string& payload, int bits, TraceResult& result) {
-  const KnxStack::BinaryData data = ParseHex(NormaliseHex(payload));
-  if (auto error = PayloadSizeError(*result.dpt, static_cast<unsigned int>(bits), data)) {
+void Decode(const Nelmo::KnxValueConverter& converter, const std::string& payload, int bits, TraceResult& result,
+            ValueTextForm text) {
+  DecodeBytes(converter, PayloadBytes(payload), bits, result, text, nullptr);
+}
+
+void DecodeOrRefuse(const Nelmo::KnxValueConverter& converter, const std::string& payload, TraceResult& result,
+                    ValueTextForm text, RowCache& rows) {
+  KnxStack::BinaryData data;
+  if (std::optional<std::string> error = ReadPayload(payload, data)) {
     result.error = std::move(*error);
     return;
   }
-  ConvertGroupValue(converter, KnxStack::GroupValue(data, GroupValueBits(*result.dpt, bits, data)), result);
+  DecodeBytes(converter, data, 0, result, text, &rows);
 }
 
 KnxStack::GroupValue PayloadGroupValue(const KNXDPT& dpt, const std::string& payload, int bits) {
-  const KnxStack::BinaryData data = ParseHex(NormaliseHex(payload));
+  const KnxStack::BinaryData data = PayloadBytes(payload);
   return KnxStack::GroupValue(data, GroupValueBits(dpt, bits, data));
 }
 
 void ConvertGroupValue(const Nelmo::KnxValueConverter& converter, const KnxStack::GroupValue& groupValue,
-                       TraceResult& result) {
-  const KnxStack::BinaryData& data = groupValue.GetRawData();
-  result.bytes.assign(data.GetData(), data.GetData() + data.GetLength());
-  result.converted = converter.FromKnxValue(*result.dpt, groupValue, result.value);
-  if (result.converted) {
-    const Nelmo::DptValueEntry& entry = QuietEntry(converter, *result.dpt);
-    result.subType = entry.subType;
-    result.text = DisplayText(entry.GetConverter(), *result.dpt, result.value, groupValue);
-  }
+                       TraceResult& result, ValueTextForm text) {
+  Convert(converter, groupValue, result, text, nullptr);
 }
 
 ULOVALUE ValueToSend(const Nelmo::KnxValueConverter& converter, const KNXDPT& dpt, const Arguments& arguments) {

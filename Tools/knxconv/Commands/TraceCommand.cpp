@@ -21,18 +21,34 @@ constexpr const char* FileHelp =
     "                      (its line says why), 2 when the trace cannot be read or is not\n"
     "                      a trace, or the output cannot be written";
 
-TraceResult DecodeTelegram(const Nelmo::KnxValueConverter& converter, DptCache& dpts, OutputContext& context,
-                           const Telegram& telegram) {
-  TraceResult result;
-  result.telegram = telegram;
+// What decoding keeps from telegram to telegram.
+struct Decoder {
+  Nelmo::KnxValueConverter converter;
+  DptCache dpts;
+  RowCache rows;
+};
+
+// Decodes result.telegram into result, whose strings keep their capacity from
+// telegram to telegram.
+void DecodeTelegram(Decoder& decoder, OutputContext& context, TraceResult& result) {
+  const Telegram& telegram = result.telegram;
+  result.dpt.reset();
+  result.converted = false;
+  result.value = ULOVALUE();
+  result.text.clear();
+  result.subType = UloDP::IVST_NONE;
+  result.catalogueSubtype.reset();
+  result.bytes.clear();
+  result.error.clear();
   if (!telegram.error.empty()) {
     result.error = telegram.error;
-    return result;
+    return;
   }
   try {
-    result.dpt = dpts.Parse(telegram.dpt);
+    result.dpt = decoder.dpts.Parse(telegram.dpt);
     context.TakeLogErrors();
-    Decode(converter, telegram.payload, 0, result);
+    DecodeOrRefuse(decoder.converter, telegram.payload, result,
+                   context.IsJson() ? ValueTextForm::Skipped : ValueTextForm::Made, decoder.rows);
     if (!result.converted && result.error.empty()) {
       result.error = context.TakeLogErrors();
     }
@@ -42,7 +58,6 @@ TraceResult DecodeTelegram(const Nelmo::KnxValueConverter& converter, DptCache& 
   if (!result.converted && result.error.empty()) {
     result.error = "not converted";
   }
-  return result;
 }
 
 // Opens the trace file; InputError says in the system's words why not.
@@ -70,21 +85,21 @@ int RunTrace(const Arguments& arguments, OutputContext& context) {
   context.FlushEachLine(name == StandardInput);
   std::istream& source = name == StandardInput ? context.In() : file;
   TraceReader reader(source);
-  const Nelmo::KnxValueConverter converter;
-  DptCache dpts;
+  Decoder decoder;
   bool allConverted = true;
-  Telegram telegram;
+  TraceResult result;
   std::string line;
   // Reading stops where the output cannot be written.
-  while (!context.OutputFailed() && reader.Next(telegram)) {
-    const TraceResult result = DecodeTelegram(converter, dpts, context, telegram);
+  while (!context.OutputFailed() && reader.Next(result.telegram)) {
+    DecodeTelegram(decoder, context, result);
     allConverted = allConverted && result.converted;
     // Only the form that is printed is built: this runs once per telegram.
     if (context.IsJson()) {
       TraceJson(result, line);
       context.PrintJsonLine(line);
     } else {
-      context.PrintLine(TraceText(result));
+      TraceText(result, line);
+      context.PrintLine(line);
     }
   }
   if (source.bad()) {

@@ -1,6 +1,9 @@
 #include "JsonWriter.h"
 
 #include <algorithm>
+#include <array>
+#include <charconv>
+#include <cmath>
 
 namespace Knxconv {
 
@@ -13,63 +16,129 @@ bool IsPlain(std::string_view text) {
                      [](const char c) { return c >= ' ' && c <= '~' && c != '"' && c != '\\'; });
 }
 
+// Room for any number's text, as JsonLine has.
+constexpr std::size_t NumberSize = 64;
+
+// value written into text, as std::to_string writes it.
+template <typename Integer>
+std::string_view IntegerText(Integer value, std::array<char, NumberSize>& text) {
+  const std::to_chars_result result = std::to_chars(text.data(), text.data() + text.size(), value);
+  return {text.data(), static_cast<std::size_t>(result.ptr - text.data())};
+}
+
 }  // namespace
 
 JsonObjectWriter::JsonObjectWriter(std::string& line) : m_line(line) {
-  m_line.assign(1, '{');
+  m_line.Put('{');
 }
 
 void JsonObjectWriter::Key(std::string_view key) {
   if (!m_first) {
-    m_line += ',';
+    m_line.Put(',');
   }
   m_first = false;
-  m_line.append(1, '"').append(key).append("\":");
+  m_line.Put('"');
+  m_line.Put(key);
+  m_line.Put("\":");
 }
 
 void JsonObjectWriter::String(std::string_view key, std::string_view value) {
   Key(key);
-  AppendString(value);
+  PutString(value);
 }
 
-void JsonObjectWriter::AppendString(std::string_view value) {
+void JsonObjectWriter::PutString(std::string_view value) {
   if (IsPlain(value)) {
-    m_line.append(1, '"').append(value).append(1, '"');
+    m_line.Put('"');
+    m_line.Put(value);
+    m_line.Put('"');
   } else {
-    m_line += JsonLine(Json(value));
+    m_line.Put(JsonLine(Json(value)));
   }
+}
+
+void JsonObjectWriter::Text(std::string_view key, const char* value) {
+  Key(key);
+  if (value != nullptr) {
+    PutString(value);
+  } else {
+    m_line.Put("null");
+  }
+}
+
+void JsonObjectWriter::Bool(std::string_view key, bool value) {
+  Key(key);
+  m_line.Put(value ? "true" : "false");
+}
+
+void JsonObjectWriter::Signed(std::string_view key, std::int64_t value) {
+  std::array<char, NumberSize> text{};
+  Key(key);
+  m_line.Put(IntegerText(value, text));
 }
 
 void JsonObjectWriter::Unsigned(std::string_view key, std::uint64_t value) {
+  std::array<char, NumberSize> text{};
   Key(key);
-  m_line += std::to_string(value);
+  m_line.Put(IntegerText(value, text));
+}
+
+void JsonObjectWriter::Number(std::string_view key, double value) {
+  if (!std::isfinite(value)) {
+    Null(key);
+    return;
+  }
+  // The shortest text that reads back as value, as JsonLine writes it.
+  std::array<char, NumberSize> text{};
+  const char* end = nlohmann::detail::to_chars(text.data(), text.data() + text.size(), value);
+  Key(key);
+  m_line.Put(std::string_view(text.data(), static_cast<std::size_t>(end - text.data())));
+}
+
+void JsonObjectWriter::Null(std::string_view key) {
+  Key(key);
+  m_line.Put("null");
+}
+
+void JsonObjectWriter::Texts(std::string_view key, const char* const* values, std::size_t count) {
+  Key(key);
+  m_line.Put('[');
+  for (std::size_t i = 0; i < count; ++i) {
+    if (i > 0) {
+      m_line.Put(',');
+    }
+    PutString(values[i]);
+  }
+  m_line.Put(']');
 }
 
 void JsonObjectWriter::Value(std::string_view key, const Json& value) {
-  Key(key);
   if (value.is_string()) {
-    AppendString(value.get_ref<const std::string&>());
+    String(key, value.get_ref<const std::string&>());
   } else if (value.is_boolean()) {
-    m_line += value.get<bool>() ? "true" : "false";
+    Bool(key, value.get<bool>());
   } else if (value.is_number_unsigned()) {
-    m_line += std::to_string(value.get<std::uint64_t>());
+    Unsigned(key, value.get<std::uint64_t>());
   } else if (value.is_number_integer()) {
-    m_line += std::to_string(value.get<std::int64_t>());
-  } else if (value.is_null()) {
-    m_line += "null";
+    Signed(key, value.get<std::int64_t>());
+  } else if (value.is_number_float()) {
+    Number(key, value.get<double>());
   } else {
-    m_line += JsonLine(value);
+    Key(key);
+    m_line.Put(value.is_null() ? "null" : JsonLine(value));
   }
 }
 
-void JsonObjectWriter::Members(const Json& object) {
-  for (const auto& member : object.items()) {
-    Value(member.key(), member.value());
-  }
+void JsonObjectWriter::Open(std::string_view key) {
+  Key(key);
+  m_line.Put('{');
+  m_first = true;
 }
 
 void JsonObjectWriter::Close() {
-  m_line += '}';
+  m_line.Put('}');
+  m_first = false;
+  m_line.Finish();
 }
 
 }  // namespace Knxconv

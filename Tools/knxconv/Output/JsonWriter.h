@@ -4,6 +4,7 @@
 #include <string>
 #include <string_view>
 
+#include "LineBuffer.h"
 #include "Output.h"
 
 namespace Knxconv {
@@ -18,19 +19,29 @@ class JsonObjectWriter {
   explicit JsonObjectWriter(std::string& line);
 
   void String(std::string_view key, std::string_view value);
+  // A text, or null for none.
+  void Text(std::string_view key, const char* value);
+  void Bool(std::string_view key, bool value);
+  void Signed(std::string_view key, std::int64_t value);
   void Unsigned(std::string_view key, std::uint64_t value);
+  // A finite number as JsonLine writes it ("30.0", "21.52"); null otherwise.
+  void Number(std::string_view key, double value);
+  void Null(std::string_view key);
+  // An array of texts.
+  void Texts(std::string_view key, const char* const* values, std::size_t count);
   // Any JSON value.
   void Value(std::string_view key, const Json& value);
-  // The members of a JSON object, appended in their order.
-  void Members(const Json& object);
-  // Ends the object; nothing may be written after.
+  // Starts an object as the value of key; Close ends it.
+  void Open(std::string_view key);
+  // Ends the innermost open object; after the outermost nothing may be
+  // written.
   void Close();
 
  private:
   void Key(std::string_view key);
-  void AppendString(std::string_view value);
+  void PutString(std::string_view value);
 
-  std::string& m_line;
+  LineBuffer m_line;
   bool m_first = true;
 };
 

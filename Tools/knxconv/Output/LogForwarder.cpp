@@ -51,10 +51,14 @@ void LogForwarder::Receive(UloLogLevel level, std::string_view file, std::string
     if (m_beforeWrite) {
       m_beforeWrite();
     }
-    // Some messages carry the raw bytes of a value.
-    m_err << EscapeText("[" + std::string(LevelName(level)) + "] " + std::string(file) + "::" + std::string(function) +
-                        ':' + std::to_string(line) + ": " + std::string(text))
-          << '\n';
+    // Some messages carry the raw bytes of a value. The line goes out in
+    // one write: standard error is not buffered.
+    m_message.assign(1, '[').append(LevelName(level)).append("] ").append(file).append("::").append(function);
+    m_message.append(1, ':').append(std::to_string(line)).append(": ").append(text);
+    m_line.clear();
+    AppendEscapedText(m_line, m_message);
+    m_line += '\n';
+    m_err.write(m_line.data(), static_cast<std::streamsize>(m_line.size()));
   }
   if (level >= ULO_LOG_ERROR && (m_errors.empty() || m_errors.back() != text)) {
     m_errors.emplace_back(text);

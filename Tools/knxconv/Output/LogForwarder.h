@@ -30,6 +30,9 @@ class LogForwarder {
   std::ostream& m_err;
   std::function<void()> m_beforeWrite;
   std::vector<std::string> m_errors;
+  // A message and its escaped line, kept for their capacity.
+  std::string m_message;
+  std::string m_line;
 };
 
 // Silences the library's log while the tool looks something up for itself.

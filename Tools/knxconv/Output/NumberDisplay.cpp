@@ -39,17 +39,14 @@ auto RangeOf(const Nelmo::KnxConverter* converter) -> decltype(&std::declval<con
 // scale: 1.5625 is a step of its own, not 2 rounded.
 class RoundTrip {
  public:
-  RoundTrip(Nelmo::KnxConverter* converter, const KNXDPT& dpt, const ULOVALUE& value,
+  RoundTrip(Nelmo::KnxConverter* converter, const NumberScale& scale, const KNXDPT& dpt, const ULOVALUE& value,
             const KnxStack::GroupValue& received)
       : m_converter(converter),
         m_dpt(dpt),
         m_received(received),
         m_trial(value.GetType()),
-        m_floats(RangeOf<Nelmo::KnxConverterFloat16BitFloat, Nelmo::KnxConverterFloat32BitFloat>(converter)),
-        // Casts cost; a float row is no scaled one.
-        m_scaled(m_floats != nullptr ? nullptr
-                                     : RangeOf<Nelmo::KnxConverterFloat8BitUnsigned, Nelmo::KnxConverterFloat8BitSigned,
-                                               Nelmo::KnxConverterFloat16BitSigned>(converter)) {}
+        m_floats(scale.floats),
+        m_scaled(scale.scaled) {}
 
   bool Scales() const { return m_floats != nullptr || m_scaled != nullptr; }
   bool Holds(double number) const {
@@ -159,13 +156,33 @@ std::string PlainDecimal(const std::string& scientific) {
   return negative ? "-" + plain : plain;
 }
 
+NumberScale ScaleOf(const Nelmo::KnxConverter* rowConverter) {
+  NumberScale scale;
+  scale.floats = RangeOf<Nelmo::KnxConverterFloat16BitFloat, Nelmo::KnxConverterFloat32BitFloat>(rowConverter);
+  // Casts cost; a float row is no scaled one.
+  if (scale.floats == nullptr) {
+    scale.scaled = RangeOf<Nelmo::KnxConverterFloat8BitUnsigned, Nelmo::KnxConverterFloat8BitSigned,
+                           Nelmo::KnxConverterFloat16BitSigned>(rowConverter);
+  }
+  return scale;
+}
+
 std::string DisplayText(Nelmo::KnxConverter* rowConverter, const KNXDPT& dpt, const ULOVALUE& value,
                         const KnxStack::GroupValue& received) {
+  // Numbers only: the scale is looked for where it is used.
+  if (KindOf(value.GetType()) != ValueKind::Number) {
+    return value.ToString();
+  }
+  return DisplayText(rowConverter, ScaleOf(rowConverter), dpt, value, received);
+}
+
+std::string DisplayText(Nelmo::KnxConverter* rowConverter, const NumberScale& scale, const KNXDPT& dpt,
+                        const ULOVALUE& value, const KnxStack::GroupValue& received) {
   const double number = KindOf(value.GetType()) == ValueKind::Number ? value.GetDouble() : NAN;
   if (!std::isfinite(number)) {
     return value.ToString();
   }
-  RoundTrip roundTrip(rowConverter, dpt, value, received);
+  RoundTrip roundTrip(rowConverter, scale, dpt, value, received);
   // Outside the row's range only the value itself stands for its bytes.
   if (!roundTrip.Scales() || !roundTrip.Holds(number)) {
     return value.ToString();

@@ -16,6 +16,19 @@ namespace Knxconv {
 std::string DisplayText(Nelmo::KnxConverter* rowConverter, const KNXDPT& dpt, const ULOVALUE& value,
                         const KnxStack::GroupValue& received);
 
+// The range within which a row's converter scales numbers to and from bus
+// integers or floats; both null for a converter that scales none. Found by
+// the converter's class, so a caller that shows many values of a row keeps
+// it.
+struct NumberScale {
+  const Nelmo::FloatRange* floats = nullptr;
+  const Nelmo::FloatIntegerRange* scaled = nullptr;
+};
+NumberScale ScaleOf(const Nelmo::KnxConverter* rowConverter);
+// DisplayText with rowConverter's scale at hand.
+std::string DisplayText(Nelmo::KnxConverter* rowConverter, const NumberScale& scale, const KNXDPT& dpt,
+                        const ULOVALUE& value, const KnxStack::GroupValue& received);
+
 // Scientific notation as printf's "%e" writes it ("-3.2e+00") in plain
 // decimal ("-3.2") where that is at most 21 digits before and 6 zeros after
 // the point; as it is otherwise.

@@ -5,11 +5,13 @@
 #include <sstream>
 #include <string>
 #include <string_view>
+#include <type_traits>
 
 #include "CatalogueInput.h"
 #include "ConverterInfo.h"
 #include "DptText.h"
 #include "JsonWriter.h"
+#include "LineBuffer.h"
 #include "TextEscape.h"
 #include "ValueDisplay.h"
 #include "ValueText.h"
@@ -39,8 +41,67 @@ Json TextOrNull(const std::string& text) {
   return text.empty() ? Json(nullptr) : Json(text);
 }
 
+// Calls visit with the value as JSON has it: nullptr for no value (and for a
+// number that is not finite, which JSON cannot write), bool, a number of the
+// value's own type, or the text of texts, dates and times.
+template <typename Visitor>
+auto VisitValue(const ULOVALUE& value, Visitor&& visit) {
+  switch (KindOf(value.GetType())) {
+    case ValueKind::NoValue:
+      return visit(nullptr);
+    case ValueKind::Boolean:
+      return visit(value.GetBool());
+    case ValueKind::Number:
+      return std::isfinite(value.GetDouble()) ? visit(value.GetDouble()) : visit(nullptr);
+    case ValueKind::Signed32:
+      return visit(value.GetInt32());
+    case ValueKind::Byte:
+      return visit(value.GetByte());
+    case ValueKind::Unsigned16:
+      return visit(value.GetUInt16());
+    case ValueKind::Unsigned32:
+      return visit(value.GetUInt32());
+    case ValueKind::Unsigned64:
+      return visit(value.GetUInt64());
+    case ValueKind::Text:
+    case ValueKind::Date:
+    case ValueKind::Time:
+    case ValueKind::DateTime:
+    case ValueKind::Unknown:
+      break;
+  }
+  return visit(value.ToString());
+}
+
+// Writes a visited value as the member "value".
+class ValueMember {
+ public:
+  explicit ValueMember(JsonObjectWriter& json) : m_json(json) {}
+  void operator()(std::nullptr_t) const { m_json.Null(Key); }
+  void operator()(bool value) const { m_json.Bool(Key, value); }
+  void operator()(double value) const { m_json.Number(Key, value); }
+  void operator()(const std::string& value) const { m_json.String(Key, value); }
+  template <typename Integer>
+  void operator()(Integer value) const {
+    if constexpr (std::is_signed_v<Integer>) {
+      m_json.Signed(Key, value);
+    } else {
+      m_json.Unsigned(Key, value);
+    }
+  }
+
+ private:
+  static constexpr const char* Key = "value";
+  JsonObjectWriter& m_json;
+};
+
+// The catalogue's sub-type of the result's DPT.
+const Nelmo::DptSubtype* Subtype(const TraceResult& result) {
+  return result.catalogueSubtype ? *result.catalogueSubtype : SubtypeOf(*result.dpt);
+}
+
 ValueDisplay Display(const TraceResult& result) {
-  return DisplayValue(*result.dpt, result.value, result.bytes,
+  return DisplayValue(*result.dpt, Subtype(result), result.value, result.bytes,
                       result.text.empty() ? result.value.ToString() : result.text);
 }
 
@@ -75,32 +136,7 @@ std::string JsonLine(const Json& json) {
 }
 
 Json ValueJson(const ULOVALUE& value) {
-  switch (KindOf(value.GetType())) {
-    case ValueKind::NoValue:
-      return nullptr;
-    case ValueKind::Boolean:
-      return value.GetBool();
-    case ValueKind::Number:
-      // JSON has no NaN.
-      return std::isfinite(value.GetDouble()) ? Json(value.GetDouble()) : Json(nullptr);
-    case ValueKind::Signed32:
-      return value.GetInt32();
-    case ValueKind::Byte:
-      return value.GetByte();
-    case ValueKind::Unsigned16:
-      return value.GetUInt16();
-    case ValueKind::Unsigned32:
-      return value.GetUInt32();
-    case ValueKind::Unsigned64:
-      return value.GetUInt64();
-    case ValueKind::Text:
-    case ValueKind::Date:
-    case ValueKind::Time:
-    case ValueKind::DateTime:
-    case ValueKind::Unknown:
-      break;
-  }
-  return value.ToString();
+  return VisitValue(value, [](auto member) { return Json(member); });
 }
 
 Json EncodeJson(const KNXDPT& dpt, const KnxStack::GroupValue& groupValue) {
@@ -117,7 +153,7 @@ Json DecodeJson(const TraceResult& result) {
   json["type"] = ValueTypeText(result.value.GetType());
   json["subtype"] = ValueSubTypeText(result.subType);
   json["value"] = ValueJson(result.value);
-  json.update(Display(result).json);
+  json.update(DisplayMembers(Display(result)));
   return json;
 }
 
@@ -126,7 +162,7 @@ std::string DecodeText(const TraceResult& result) {
 }
 
 Json DisplayJson(const TraceResult& result) {
-  return Display(result).json;
+  return DisplayMembers(Display(result));
 }
 
 TableRow DescribeRow(const Nelmo::DptValueEntry& entry) {
@@ -193,38 +229,44 @@ Json TableJson(const std::vector<TableRow>& rows) {
 
 namespace {
 
-// Appends text and blanks up to width, without a temporary of its own.
-void AppendPadded(std::string& line, std::string_view text, std::size_t width) {
-  line.append(text);
+// text and blanks up to width.
+void PutPadded(LineBuffer& line, std::string_view text, std::size_t width) {
+  line.Put(text);
   if (text.size() < width) {
-    line.append(width - text.size(), ' ');
+    line.PutBlanks(width - text.size());
   }
 }
 
 }  // namespace
 
 std::string TraceText(const TraceResult& result) {
-  // One string built in place: this runs once per telegram of a trace.
-  constexpr std::size_t Typical = 112;
-  const Telegram& telegram = result.telegram;
   std::string text;
-  text.reserve(Typical);
-  text.append(telegram.time).append("  ");
-  AppendPadded(text, telegram.source, AddressWidth);
-  text.append(" -> ");
-  AppendPadded(text, telegram.destination, AddressWidth);
-  text.append("  ");
-  AppendPadded(text, TraceDpt(result), DptWidth);
-  text.append(" ");
-  AppendPadded(text, telegram.payload, PayloadWidth);
-  text.append(" ");
-  if (!result.converted) {
-    return text.append("error: ").append(result.error);
-  }
-  text += DecodeText(result);
-  // An empty value leaves no blanks at the end of the line.
-  text.erase(text.find_last_not_of(' ') + 1);
+  TraceText(result, text);
   return text;
+}
+
+void TraceText(const TraceResult& result, std::string& text) {
+  const Telegram& telegram = result.telegram;
+  LineBuffer line(text);
+  line.Put(telegram.time);
+  line.Put("  ");
+  PutPadded(line, telegram.source, AddressWidth);
+  line.Put(" -> ");
+  PutPadded(line, telegram.destination, AddressWidth);
+  line.Put("  ");
+  PutPadded(line, TraceDpt(result), DptWidth);
+  line.Put(' ');
+  PutPadded(line, telegram.payload, PayloadWidth);
+  line.Put(' ');
+  if (!result.converted) {
+    line.Put("error: ");
+    line.Put(result.error);
+  } else {
+    line.Put(DecodeText(result));
+    // An empty value leaves no blanks at the end of the line.
+    line.TrimEnd();
+  }
+  line.Finish();
 }
 
 void TraceJson(const TraceResult& result, std::string& line) {
@@ -241,8 +283,9 @@ void TraceJson(const TraceResult& result, std::string& line) {
   } else {
     json.String("type", ValueTypeText(result.value.GetType()));
     json.String("subtype", ValueSubTypeText(result.subType));
-    json.Value("value", ValueJson(result.value));
-    json.Members(Display(result).json);
+    VisitValue(result.value, ValueMember(json));
+    // The display's text is not written.
+    WriteDisplayMembers(DisplayValue(*result.dpt, Subtype(result), result.value, result.bytes, std::string()), json);
   }
   json.Close();
 }

@@ -6,6 +6,7 @@
 
 #include <nlohmann/json.hpp>
 
+#include "DptCatalogue.h"
 #include "KnxValueConverterApi.h"
 #include "TraceReader.h"
 
@@ -64,6 +65,9 @@ struct TraceResult {
   // The value as the text output shows it.
   std::string text;
   UloDP::UloValueSubType subType = UloDP::IVST_NONE;
+  // dpt's sub-type in the catalogue (SubtypeOf), where the decoder looked it
+  // up; nullopt where it did not.
+  std::optional<const Nelmo::DptSubtype*> catalogueSubtype;
   // The payload's bytes, once read.
   std::vector<unsigned char> bytes;
   std::string error;
@@ -78,6 +82,8 @@ Json DisplayJson(const TraceResult& result);
 
 // "time  source -> destination  dpt  payload  value", or "... error: why".
 std::string TraceText(const TraceResult& result);
+// The same written over text, which keeps its capacity.
+void TraceText(const TraceResult& result, std::string& text);
 // The same as one line of JSON, written over line.
 void TraceJson(const TraceResult& result, std::string& line);
 

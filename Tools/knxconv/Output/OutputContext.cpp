@@ -22,11 +22,18 @@ std::string OutputContext::TakeLogErrors() {
 }
 
 void OutputContext::PrintLine(std::string_view text) {
-  WriteLine(EscapeText(text));
+  // Most lines need no escape and are written as they are.
+  if (IsPlainText(text)) {
+    WriteLine(text);
+    return;
+  }
+  m_line.clear();
+  AppendEscapedText(m_line, text);
+  WriteLine(m_line);
 }
 
 void OutputContext::PrintJson(const Json& json) {
-  WriteLine(JsonLine(json));
+  PrintJsonLine(JsonLine(json));
 }
 
 void OutputContext::PrintJsonLine(const std::string& line) {
@@ -85,12 +92,19 @@ int OutputContext::Finish(int status) {
   return ExitUsage;
 }
 
-void OutputContext::WriteLine(const std::string& line) {
+void OutputContext::WriteLine(std::string_view line) {
   if (OutputFailed()) {
     return;
   }
   errno = 0;
-  m_out << line << '\n';
+  // Straight into the stream's buffer, which gathers the lines; a failed
+  // write fails the stream as its own write would.
+  const auto size = static_cast<std::streamsize>(line.size());
+  std::streambuf* buffer = m_out.rdbuf();
+  if (buffer == nullptr || buffer->sputn(line.data(), size) != size ||
+      buffer->sputc('\n') == std::char_traits<char>::eof()) {
+    m_out.setstate(std::ios::badbit);
+  }
   CheckOutput();
   if (m_flushEachLine) {
     FlushOutput();

@@ -67,8 +67,9 @@ class OutputContext {
   int Finish(int status);
 
  private:
-  // Writes a line that is ready to print, unless output already failed.
-  void WriteLine(const std::string& line);
+  // Writes a line that is ready to print and its line end, unless output
+  // already failed.
+  void WriteLine(std::string_view line);
   // Standard output is flushed before anything goes to standard error: the
   // lines keep their order, and a failed write is seen with its errno (a
   // tied stream's flush would lose it).
@@ -82,6 +83,8 @@ class OutputContext {
   std::unique_ptr<LogForwarder> m_log;
   int m_writeError = 0;
   bool m_flushEachLine = false;
+  // A line being escaped, kept so that its capacity is.
+  std::string m_line;
 };
 
 }  // namespace Knxconv

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstdint>
+#include <cstring>
 
 namespace Knxconv {
 
@@ -80,15 +81,37 @@ std::string EscapedControl(unsigned char byte) {
   }
 }
 
+bool IsPlain(unsigned char byte) {
+  return byte >= 0x20 && byte < Delete && byte != '\\';
+}
+
+// Whether one of word's bytes is not plain, all eight tested at once: the
+// high bit of a byte is set where it is below 0x20, at or above DEL, or a
+// backslash. A carry or borrow between bytes starts only at a byte that is
+// not plain, so the answer is exact.
+bool HasSpecialByte(std::uint64_t word) {
+  constexpr std::uint64_t Ones = 0x0101010101010101U;
+  constexpr std::uint64_t Highs = 0x8080808080808080U;
+  const std::uint64_t below = (word - Ones * 0x20U) & ~word;
+  const std::uint64_t above = (word + Ones) | word;
+  const std::uint64_t others = word ^ (Ones * static_cast<unsigned char>('\\'));
+  const std::uint64_t backslash = (others - Ones) & ~others;
+  return ((below | above | backslash) & Highs) != 0;
+}
+
 // How many bytes at the start of text are printable ASCII other than the
 // backslash: they need no escaping.
 std::size_t PlainPrefix(std::string_view text) {
   std::size_t length = 0;
-  while (length < text.size()) {
-    const auto byte = static_cast<unsigned char>(text[length]);
-    if (byte < 0x20 || byte >= Delete || byte == '\\') {
+  std::uint64_t word = 0;
+  while (length + sizeof word <= text.size()) {
+    std::memcpy(&word, text.data() + length, sizeof word);
+    if (HasSpecialByte(word)) {
       break;
     }
+    length += sizeof word;
+  }
+  while (length < text.size() && IsPlain(static_cast<unsigned char>(text[length]))) {
     ++length;
   }
   return length;
@@ -99,6 +122,11 @@ std::size_t PlainPrefix(std::string_view text) {
 std::string EscapeText(std::string_view text) {
   std::string escaped;
   escaped.reserve(text.size());
+  AppendEscapedText(escaped, text);
+  return escaped;
+}
+
+void AppendEscapedText(std::string& escaped, std::string_view text) {
   while (!text.empty()) {
     // Printable ASCII, nearly all of a line, goes as it is, a run at a time.
     const std::size_t plain = PlainPrefix(text);
@@ -123,7 +151,10 @@ std::string EscapeText(std::string_view text) {
     }
     text.remove_prefix(length);
   }
-  return escaped;
+}
+
+bool IsPlainText(std::string_view text) {
+  return PlainPrefix(text) == text.size();
 }
 
 std::string EscapeJsonControls(std::string_view json) {

@@ -13,6 +13,11 @@ namespace Knxconv {
 // "\u0080" to "\u009F"; each byte that is not part of valid UTF-8 becomes
 // "\xNN".
 std::string EscapeText(std::string_view text);
+// The same appended to escaped, which keeps its capacity.
+void AppendEscapedText(std::string& escaped, std::string_view text);
+// Whether text is printable ASCII without a backslash, which EscapeText
+// leaves as it is.
+bool IsPlainText(std::string_view text);
 
 // Compact JSON whose strings may still hold DEL and C1 characters (JSON only
 // requires C0 to be escaped): those become "\u007f" and "\u0080" to

@@ -3,6 +3,7 @@
 #include <array>
 #include <cmath>
 #include <cstdio>
+#include <utility>
 
 #include "CatalogueInput.h"
 #include "ValueText.h"
@@ -48,7 +49,7 @@ unsigned char Byte(const std::vector<unsigned char>& bytes, std::size_t index) {
 
 // The words of a 1-bit sub-type ("up"/"down" of 1.008), which 2.x and 3.x
 // share by sub number.
-std::string BooleanWord(std::uint16_t subNumber, bool value, const char* off, const char* on) {
+const char* BooleanWord(std::uint16_t subNumber, bool value, const char* off, const char* on) {
   if (const Nelmo::DptSubtype* subtype = Nelmo::DptCatalogue::Find(1, subNumber)) {
     if (const char* name = Nelmo::DptCatalogue::ValueName(*subtype, value ? 1 : 0)) {
       return name;
@@ -57,65 +58,79 @@ std::string BooleanWord(std::uint16_t subNumber, bool value, const char* off, co
   return value ? on : off;
 }
 
-void ShowBoolean(const KNXDPT& dpt, const ULOVALUE& value, ValueDisplay& display) {
-  const Nelmo::DptSubtype* subtype = SubtypeOf(dpt);
+void AddField(ValueDisplay& display, const char* name, DisplayField::Kind kind, std::int64_t number,
+              const char* word = nullptr) {
+  display.fields[display.fieldCount++] = {name, kind, number, word};
+}
+
+void AddFlag(ValueDisplay& display, const char* name, bool flag) {
+  AddField(display, name, DisplayField::Kind::Flag, flag ? 1 : 0);
+}
+
+void AddNumber(ValueDisplay& display, const char* name, std::int64_t number) {
+  AddField(display, name, DisplayField::Kind::Number, number);
+}
+
+void ShowBoolean(const Nelmo::DptSubtype* subtype, const ULOVALUE& value, ValueDisplay& display) {
   const char* name = subtype != nullptr ? Nelmo::DptCatalogue::ValueName(*subtype, value.GetBool() ? 1 : 0) : nullptr;
   if (name != nullptr) {
     display.text = name;
-    display.json["valueName"] = name;
+    display.valueName = name;
   }
 }
 
 void ShowControlled(const KNXDPT& dpt, const std::vector<unsigned char>& bytes, ValueDisplay& display) {
   const bool control = (Byte(bytes, 0) & ControlBit) != 0;
   const bool state = (Byte(bytes, 0) & 1U) != 0;
-  display.text = std::string(control ? "control, " : "no control, ") + BooleanWord(dpt.subNumber, state, "off", "on");
-  display.json["fields"] = {{"control", control}, {"value", state}};
+  display.text.assign(control ? "control, " : "no control, ").append(BooleanWord(dpt.subNumber, state, "off", "on"));
+  AddFlag(display, "control", control);
+  AddFlag(display, "value", state);
 }
 
 void ShowStep(const KNXDPT& dpt, const std::vector<unsigned char>& bytes, ValueDisplay& display) {
-  const std::string direction =
-      BooleanWord(dpt.subNumber, (Byte(bytes, 0) & DirectionBit) != 0, "decrease", "increase");
+  const char* direction = BooleanWord(dpt.subNumber, (Byte(bytes, 0) & DirectionBit) != 0, "decrease", "increase");
   const unsigned step = Byte(bytes, 0) & StepMask;
-  display.text = step == 0 ? "stop" : direction + " " + std::to_string(step);
-  display.json["fields"] = {{"direction", direction}, {"step", step}};
+  display.text = step == 0 ? "stop" : direction + (" " + std::to_string(step));
+  AddField(display, "direction", DisplayField::Kind::Word, 0, direction);
+  AddNumber(display, "step", step);
 }
 
 void ShowWeekday(unsigned day, ValueDisplay& display) {
   if (day > 0 && day < Weekdays.size()) {
-    display.text = std::string(Weekdays[day]) + " " + display.text;
-    display.json["weekday"] = Weekdays[day];
+    display.text.insert(0, " ").insert(0, Weekdays[day]);
+    display.weekday = Weekdays[day];
   }
 }
 
 void ShowDateTime(const std::vector<unsigned char>& bytes, ValueDisplay& display) {
   ShowWeekday(Byte(bytes, DateTimeWeekdayByte) >> WeekdayShift, display);
-  Json flags = Json::array();
-  std::string text;
+  display.hasFlags = true;
   for (const Flag& flag : DateTimeFlags) {
     if ((Byte(bytes, flag.byte) & flag.mask) != 0) {
-      flags.push_back(flag.name);
-      text += (text.empty() ? "" : ", ") + std::string(flag.name);
+      display.text.append(display.flagCount == 0 ? " (" : ", ").append(flag.name);
+      display.flags[display.flagCount++] = flag.name;
     }
   }
-  if (!text.empty()) {
-    display.text += " (" + text + ")";
+  if (display.flagCount > 0) {
+    display.text += ')';
   }
-  display.json["flags"] = flags;
 }
 
 void ShowSceneControl(const std::vector<unsigned char>& bytes, ValueDisplay& display) {
   const bool learn = (Byte(bytes, 0) & LearnBit) != 0;
   const unsigned scene = (Byte(bytes, 0) & SceneMask) + 1U;
   display.text = std::string(learn ? "learn" : "activate") + " scene " + std::to_string(scene);
-  display.json["fields"] = {{"scene", scene}, {"learn", learn}};
+  AddNumber(display, "scene", scene);
+  AddFlag(display, "learn", learn);
 }
 
 void ShowColour(const std::vector<unsigned char>& bytes, ValueDisplay& display) {
   char text[8];
   std::snprintf(text, sizeof text, "#%02X%02X%02X", Byte(bytes, 0), Byte(bytes, 1), Byte(bytes, 2));
   display.text = text;
-  display.json["fields"] = {{"red", Byte(bytes, 0)}, {"green", Byte(bytes, 1)}, {"blue", Byte(bytes, 2)}};
+  AddNumber(display, "red", Byte(bytes, 0));
+  AddNumber(display, "green", Byte(bytes, 1));
+  AddNumber(display, "blue", Byte(bytes, 2));
 }
 
 bool IsNumeric(ValueKind kind) {
@@ -124,8 +139,7 @@ bool IsNumeric(ValueKind kind) {
 }
 
 // Enumerations by value name, other numbers with their unit.
-void ShowNumber(const KNXDPT& dpt, const ULOVALUE& value, ValueDisplay& display) {
-  const Nelmo::DptSubtype* subtype = SubtypeOf(dpt);
+void ShowNumber(const Nelmo::DptSubtype* subtype, const ULOVALUE& value, ValueDisplay& display) {
   const ValueKind kind = KindOf(value.GetType());
   if (subtype == nullptr || !IsNumeric(kind)) {
     return;
@@ -133,23 +147,44 @@ void ShowNumber(const KNXDPT& dpt, const ULOVALUE& value, ValueDisplay& display)
   if (subtype->valueNames != nullptr && kind != ValueKind::Number) {
     if (const char* name = Nelmo::DptCatalogue::ValueName(*subtype, value.GetUInt32())) {
       display.text = name;
-      display.json["valueName"] = name;
+      display.valueName = name;
     }
     return;
   }
   if (*subtype->unit != '\0' && (kind != ValueKind::Number || std::isfinite(value.GetDouble()))) {
-    display.text += std::string(" ") + subtype->unit;
+    display.text.append(" ").append(subtype->unit);
+  }
+}
+
+void WriteField(const DisplayField& field, JsonObjectWriter& json) {
+  switch (field.kind) {
+    case DisplayField::Kind::Number:
+      json.Signed(field.name, field.number);
+      break;
+    case DisplayField::Kind::Flag:
+      json.Bool(field.name, field.number != 0);
+      break;
+    case DisplayField::Kind::Word:
+      json.Text(field.name, field.word);
+      break;
   }
 }
 
 }  // namespace
 
 ValueDisplay DisplayValue(const KNXDPT& dpt, const ULOVALUE& value, const std::vector<unsigned char>& bytes,
-                          const std::string& valueText) {
-  const Nelmo::DptSubtype* subtype = SubtypeOf(dpt);
-  ValueDisplay display{valueText, Json::object()};
-  display.json["name"] = subtype != nullptr ? Json(subtype->name) : Json(nullptr);
-  display.json["unit"] = subtype != nullptr && *subtype->unit != '\0' ? Json(subtype->unit) : Json(nullptr);
+                          std::string valueText) {
+  return DisplayValue(dpt, SubtypeOf(dpt), value, bytes, std::move(valueText));
+}
+
+ValueDisplay DisplayValue(const KNXDPT& dpt, const Nelmo::DptSubtype* subtype, const ULOVALUE& value,
+                          const std::vector<unsigned char>& bytes, std::string valueText) {
+  ValueDisplay display;
+  display.text = std::move(valueText);
+  if (subtype != nullptr) {
+    display.name = subtype->name;
+    display.unit = *subtype->unit != '\0' ? subtype->unit : nullptr;
+  }
   if (KindOf(value.GetType()) == ValueKind::NoValue) {
     // 7F FF and the like: the bus said there is no valid value, and a blank
     // would read as a line that lost its value.
@@ -158,7 +193,7 @@ ValueDisplay DisplayValue(const KNXDPT& dpt, const ULOVALUE& value, const std::v
   }
   switch (dpt.mainNumber) {
     case 1:
-      ShowBoolean(dpt, value, display);
+      ShowBoolean(subtype, value, display);
       break;
     case 2:
       ShowControlled(dpt, bytes, display);
@@ -170,8 +205,8 @@ ValueDisplay DisplayValue(const KNXDPT& dpt, const ULOVALUE& value, const std::v
       ShowWeekday(Byte(bytes, 0) >> WeekdayShift, display);
       break;
     case 17:
-      display.text = "scene " + display.text;
-      display.json["fields"] = {{"scene", value.GetInt32()}};
+      display.text.insert(0, "scene ");
+      AddNumber(display, "scene", value.GetInt32());
       break;
     case 18:
       ShowSceneControl(bytes, display);
@@ -185,10 +220,40 @@ ValueDisplay DisplayValue(const KNXDPT& dpt, const ULOVALUE& value, const std::v
       }
       break;
     default:
-      ShowNumber(dpt, value, display);
+      ShowNumber(subtype, value, display);
       break;
   }
   return display;
+}
+
+void WriteDisplayMembers(const ValueDisplay& display, JsonObjectWriter& json) {
+  json.Text("name", display.name);
+  json.Text("unit", display.unit);
+  if (display.valueName != nullptr) {
+    json.Text("valueName", display.valueName);
+  }
+  if (display.weekday != nullptr) {
+    json.Text("weekday", display.weekday);
+  }
+  if (display.hasFlags) {
+    json.Texts("flags", display.flags.data(), display.flagCount);
+  }
+  if (display.fieldCount > 0) {
+    json.Open("fields");
+    for (std::size_t i = 0; i < display.fieldCount; ++i) {
+      WriteField(display.fields[i], json);
+    }
+    json.Close();
+  }
+}
+
+Json DisplayMembers(const ValueDisplay& display) {
+  // Read back from the written form, so that both forms are one.
+  std::string line;
+  JsonObjectWriter json(line);
+  WriteDisplayMembers(display, json);
+  json.Close();
+  return Json::parse(line);
 }
 
 }  // namespace Knxconv

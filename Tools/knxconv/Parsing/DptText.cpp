@@ -1,5 +1,7 @@
 #include "DptText.h"
 
+#include <array>
+#include <charconv>
 #include <cstdint>
 #include <cstdio>
 #include <limits>
@@ -61,15 +63,21 @@ KNXDPT ParseDpt(std::string_view text) {
 // "%u.%03u" written out: a trace formats one DPT per telegram, and a
 // printf costs more than the conversion.
 std::string FormatDpt(const KNXDPT& dpt) {
-  constexpr unsigned SubDigits = 3;
-  std::string text = std::to_string(dpt.mainNumber);
-  text += '.';
-  const std::string sub = std::to_string(dpt.subNumber);
-  if (sub.size() < SubDigits) {
-    text.append(SubDigits - sub.size(), '0');
+  // Each trace line writes one: digits straight into a buffer, the sub
+  // number with at least three of them ("9.001").
+  constexpr std::uint16_t ThreeDigits = 100;
+  constexpr std::uint16_t TwoDigits = 10;
+  std::array<char, 16> text{};
+  char* end = std::to_chars(text.data(), text.data() + text.size(), dpt.mainNumber).ptr;
+  *end++ = '.';
+  if (dpt.subNumber < TwoDigits) {
+    *end++ = '0';
   }
-  text += sub;
-  return text;
+  if (dpt.subNumber < ThreeDigits) {
+    *end++ = '0';
+  }
+  end = std::to_chars(end, text.data() + text.size(), dpt.subNumber).ptr;
+  return {text.data(), end};
 }
 
 std::string DptLabel(const KNXDPT& dpt) {

@@ -38,6 +38,7 @@ class TraceReader {
 
   std::istream& m_in;
   std::size_t m_lineNumber = 0;
+  std::string m_line;
 };
 
 }  // namespace Knxconv

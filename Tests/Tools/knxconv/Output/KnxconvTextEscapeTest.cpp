@@ -53,6 +53,21 @@ const EscapeCase EscapeCases[] = {
     {"Surrogate", "\xED\xA0\x80", R"(\xED\xA0\x80)", "\"\xEF\xBF\xBD\xEF\xBF\xBD\xEF\xBF\xBD\""},
     {"AboveUnicode", "\xF4\x90\x80\x80", R"(\xF4\x90\x80\x80)", "\"\xEF\xBF\xBD\xEF\xBF\xBD\xEF\xBF\xBD\xEF\xBF\xBD\""},
     {"HighestCodePoint", "\xF4\x8F\xBF\xBF", "\xF4\x8F\xBF\xBF", "\"\xF4\x8F\xBF\xBF\""},
+    // Texts longer than a word of eight bytes, each byte that needs an
+    // escape in a word of its own or at a word's edge.
+    {"LongPlain", "06:00:00.015  1.1.1 -> 0/0/1 ~!", "06:00:00.015  1.1.1 -> 0/0/1 ~!",
+     R"("06:00:00.015  1.1.1 -> 0/0/1 ~!")"},
+    {"TabAfterAWord", "12345678\tb", R"(12345678\tb)", R"("12345678\tb")"},
+    {"BackslashLastOfAWord", R"(1234567\8)", R"(1234567\\8)", R"("1234567\\8")"},
+    {"UnitSeparatorInTheSecondWord",
+     "12345678123\x1F"
+     "5678",
+     R"(12345678123\x1F5678)", R"("12345678123\u001f5678")"},
+    {"DeleteAfterTwoWords", "1234567812345678\x7F", R"(1234567812345678\x7F)", R"("1234567812345678\u007f")"},
+    {"Utf8AfterAWord",
+     "Outside: 21.5 \xC2\xB0"
+     "C",
+     "Outside: 21.5 °C", "\"Outside: 21.5 °C\""},
 };
 
 class TextEscape : public ::testing::TestWithParam<EscapeCase> {};
@@ -67,6 +82,28 @@ TEST_P(TextEscape, JsonEscapesControlCharactersAndReplacesInvalidBytes) {
 
 INSTANTIATE_TEST_SUITE_P(Texts, TextEscape, ::testing::ValuesIn(EscapeCases),
                          [](const ::testing::TestParamInfo<EscapeCase>& info) { return info.param.name; });
+
+struct PlainCase {
+  const char* text;
+  bool plain;  // EscapeText leaves it as it is, byte for byte ASCII
+};
+
+const PlainCase PlainCases[] = {
+    {"06:00:00.015  1.1.1     -> 0/0/1 ~", true},
+    {"", true},
+    {"21.5 \xC2\xB0"
+     "C",
+     false},
+    {R"(a\b)", false},
+    {"12345678\tb", false},
+    {"1234567812345678\x7F", false},
+};
+
+TEST(TextEscape, TellsPlainTextApart) {
+  for (const PlainCase& row : PlainCases) {
+    EXPECT_EQ(IsPlainText(row.text), row.plain) << row.text;
+  }
+}
 
 TEST(TextEscapeJson, LeavesEverythingOutsideStringsAsItIs) {
   EXPECT_EQ(EscapeJsonControls("{\"a\":[1,2.5,null]}"), "{\"a\":[1,2.5,null]}");

@@ -1,0 +1,19 @@
+#include "RowCache.h"
+
+#include "CatalogueInput.h"
+#include "Conversion.h"
+
+namespace Knxconv {
+
+const CachedRow& RowCache::Find(const Nelmo::KnxValueConverter& converter, const KNXDPT& dpt) {
+  constexpr unsigned SubBits = 16;
+  const std::uint32_t key = (static_cast<std::uint32_t>(dpt.mainNumber) << SubBits) | dpt.subNumber;
+  auto found = m_rows.find(key);
+  if (found == m_rows.end()) {
+    const Nelmo::DptValueEntry& entry = QuietEntry(converter, dpt);
+    found = m_rows.emplace(key, CachedRow{&entry, ScaleOf(entry.GetConverter()), SubtypeOf(dpt)}).first;
+  }
+  return found->second;
+}
+
+}  // namespace Knxconv

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <cstdint>
+#include <unordered_map>
+
+#include "DptCatalogue.h"
+#include "KnxValueConverterApi.h"
+#include "NumberDisplay.h"
+
+namespace Knxconv {
+
+// The library's row of a DPT (QuietEntry), its number converter's scale
+// (ScaleOf) and the DPT's sub-type in the catalogue (SubtypeOf).
+struct CachedRow {
+  const Nelmo::DptValueEntry* entry = nullptr;
+  NumberScale scale;
+  const Nelmo::DptSubtype* subtype = nullptr;
+};
+
+// Rows looked up once per DPT: a trace shows the row's sub-type, number
+// display and catalogue entry for each telegram, and its telegrams name few DPTs. One cache
+// serves one converter, whose table does not change while it is used.
+class RowCache {
+ public:
+  const CachedRow& Find(const Nelmo::KnxValueConverter& converter, const KNXDPT& dpt);
+
+ private:
+  // Main and sub number: the bit size plays no part in the lookup.
+  std::unordered_map<std::uint32_t, CachedRow> m_rows;
+};
+
+}  // namespace Knxconv
