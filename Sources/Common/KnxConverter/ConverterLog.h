@@ -5,8 +5,11 @@
 // builds no text (and allocates nothing) while logging is off.
 
 #include <cstdint>
+#include <ios>
+#include <optional>
 #include <ostream>
 #include <sstream>
+#include <string>
 #include <string_view>
 
 #include "KnxStack.h"
@@ -17,18 +20,69 @@ namespace Nelmo::Log {
 inline constexpr std::string_view ConverterFile = "KnxConverter";
 inline constexpr std::string_view FacadeFile = "KnxValueConverter";
 
-// Composing a message needs a string stream, whose set-up would otherwise
-// be inlined into every caller and paid for on each call; kept out of line
-// and out of the hot code.
+// The string stream a message is composed in: the thread's own, kept from
+// message to message, since setting one up costs more than composing most
+// messages; a stream of its own where the thread's is in use (a log sink
+// that converts and logs again). The stream starts empty, with the default
+// format.
+class MessageText {
+ public:
+  MessageText() {
+    KeptStream& kept = ThisThreadsStream();
+    if (kept.busy) {
+      m_stream = &m_own.emplace();
+      return;
+    }
+    kept.busy = true;
+    m_busy = &kept.busy;
+    m_stream = &kept.stream;
+    // What the last message left: its text, a failed state, a changed format.
+    m_stream->str(std::string());
+    m_stream->clear();
+    m_stream->flags(std::ios_base::skipws | std::ios_base::dec);
+    m_stream->precision(DefaultPrecision);
+    m_stream->width(0);
+    m_stream->fill(' ');
+  }
+  ~MessageText() {
+    if (m_busy != nullptr) {
+      *m_busy = false;
+    }
+  }
+  MessageText(const MessageText&) = delete;
+  MessageText& operator=(const MessageText&) = delete;
+
+  std::ostream& Stream() { return *m_stream; }
+  std::string Text() const { return m_stream->str(); }
+
+ private:
+  struct KeptStream {
+    std::ostringstream stream;
+    bool busy = false;
+  };
+  static constexpr std::streamsize DefaultPrecision = 6;
+
+  static KeptStream& ThisThreadsStream() {
+    thread_local KeptStream kept;
+    return kept;
+  }
+
+  std::ostringstream* m_stream = nullptr;
+  bool* m_busy = nullptr;
+  std::optional<std::ostringstream> m_own;
+};
+
+// Kept out of line and out of the hot code: the conversion path only tests
+// the level.
 template <typename Compose>
 [[gnu::cold, gnu::noinline]] void WriteActive(UloLogLevel level, std::string_view file, std::string_view function,
                                               int line, Compose& compose) {
   if (!UloLoggingStateIsActive(level)) {
     return;
   }
-  std::ostringstream text;
-  compose(text);
-  UloLog(level, file, function, text.str(), line);
+  MessageText text;
+  compose(text.Stream());
+  UloLog(level, file, function, text.Text(), line);
 }
 
 // compose(std::ostream&) writes the text; called only when level is active.
