@@ -125,6 +125,13 @@ std::optional<std::string> ScientificTry(double number, RoundTrip& roundTrip) {
   return std::nullopt;
 }
 
+// The scientific form where one gives the bytes back, else the value's own
+// text, made only then: it formats the number once more.
+std::string ScientificOrPlain(double number, RoundTrip& roundTrip, const ULOVALUE& value) {
+  std::optional<std::string> scientific = ScientificTry(number, roundTrip);
+  return scientific ? *std::move(scientific) : value.ToString();
+}
+
 }  // namespace
 
 std::string PlainDecimal(const std::string& scientific) {
@@ -189,7 +196,7 @@ std::string DisplayText(Nelmo::KnxConverter* rowConverter, const NumberScale& sc
   }
   const int exponent = number == 0.0 ? 0 : static_cast<int>(std::floor(std::log10(std::fabs(number))));
   if (exponent < SmallestFastExponent || exponent > LargestFastExponent) {
-    return ScientificTry(number, roundTrip).value_or(value.ToString());
+    return ScientificOrPlain(number, roundTrip, value);
   }
   for (int significant = 1; significant <= ExactDigits; ++significant) {
     const ShortDecimal decimal = Rounded(number, significant, exponent);
@@ -197,7 +204,7 @@ std::string DisplayText(Nelmo::KnxConverter* rowConverter, const NumberScale& sc
       return FixedText(decimal);
     }
   }
-  return ScientificTry(number, roundTrip).value_or(value.ToString());
+  return ScientificOrPlain(number, roundTrip, value);
 }
 
 }  // namespace Knxconv
