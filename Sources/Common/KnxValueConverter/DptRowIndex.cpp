@@ -12,7 +12,6 @@ void DptRowIndex::Widen(Span& span, std::uint16_t count) {
     // Moved to the end with room to double, so that rows added in order of
     // their sub numbers move only a few times.
     const std::size_t first = m_rows.size();
-    const Row* const before = m_rows.data();
     const auto capacity = static_cast<std::uint16_t>(
         std::min<std::size_t>(std::max<std::size_t>(count, std::size_t{2} * span.capacity), DenseSubNumbers));
     m_rows.resize(first + capacity);
@@ -20,12 +19,6 @@ void DptRowIndex::Widen(Span& span, std::uint16_t count) {
     std::fill_n(m_rows.begin() + span.first, span.count, Row());
     span.first = static_cast<std::uint32_t>(first);
     span.capacity = capacity;
-    span.rows = m_rows.data() + first;
-    if (m_rows.data() != before) {
-      for (Span& each : m_mains) {
-        each.rows = m_rows.data() + each.first;
-      }
-    }
   }
   span.count = count;
 }
@@ -36,7 +29,6 @@ void DptRowIndex::Add(const KNXDPT& dpt, const DptValueEntry& entry, const Conve
   }
   if (dpt.mainNumber >= m_mains.size()) {
     m_mains.resize(static_cast<std::size_t>(dpt.mainNumber) + 1);
-    m_mainCount = static_cast<std::uint32_t>(m_mains.size());
   }
   Span& span = m_mains[dpt.mainNumber];
   if (dpt.subNumber >= span.count) {

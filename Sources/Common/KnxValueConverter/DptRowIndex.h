@@ -13,9 +13,9 @@ struct ConverterCalls;
 // A flat index over the rows of the DPT table: main number, then sub number,
 // to the row, the bit size its format demands and how to call its converter,
 // so that a conversion finds its row with a few array reads instead of two
-// tree walks. It answers only
-// the common cases and says so; everything else (no row, the empty entry, a
-// sub number too large to index densely) is left to the table itself.
+// tree walks. It answers only the common cases and says so; everything else
+// (no row, the empty entry, a sub number too large to index densely) is left
+// to the table itself.
 class DptRowIndex {
  public:
   struct Row {
@@ -37,7 +37,6 @@ class DptRowIndex {
   void Add(const KNXDPT& dpt, const DptValueEntry& entry, const ConverterCalls* calls);
   void Clear() {
     m_mains.clear();
-    m_mainCount = 0;
     m_rows.clear();
   }
 
@@ -66,10 +65,9 @@ class DptRowIndex {
   }
 
  private:
-  // A main number's rows: sub number s at rows[s], which is m_rows[first +
-  // s]. Room for capacity rows is kept, so that most additions stay in place.
+  // Where a main number's rows lie in m_rows: sub number s at first + s.
+  // Room for capacity rows is kept, so that most additions stay in place.
   struct Span {
-    const Row* rows = nullptr;
     std::uint32_t first = 0;
     std::uint16_t count = 0;
     std::uint16_t capacity = 0;
@@ -79,27 +77,25 @@ class DptRowIndex {
 
   // The place of dpt's own row, possibly empty; null where there is none.
   const Row* Slot(const KNXDPT& dpt) const {
-    if (dpt.mainNumber >= m_mainCount) {
+    if (dpt.mainNumber >= m_mains.size()) {
       return nullptr;
     }
     const Span& span = m_mains[dpt.mainNumber];
-    return dpt.subNumber < span.count ? span.rows + dpt.subNumber : nullptr;
+    return dpt.subNumber < span.count ? &m_rows[span.first + dpt.subNumber] : nullptr;
   }
 
   // The main.x row that answers for dpt's sub number, possibly empty.
   const Row* MainRow(const KNXDPT& dpt) const {
-    if (dpt.subNumber == 0 || dpt.subNumber >= DenseSubNumbers || dpt.mainNumber >= m_mainCount) {
+    if (dpt.subNumber == 0 || dpt.subNumber >= DenseSubNumbers || dpt.mainNumber >= m_mains.size()) {
       return nullptr;
     }
     const Span& span = m_mains[dpt.mainNumber];
-    return span.count != 0 && span.rows->entry != nullptr ? span.rows : nullptr;
+    return span.count != 0 && m_rows[span.first].entry != nullptr ? &m_rows[span.first] : nullptr;
   }
 
   // All rows in one array (no vector per main number): a lookup reads no
-  // more than the main number's span and the row. The count is kept apart
-  // so that the bounds check reads one number.
+  // more than the main number's span and the row.
   std::vector<Span> m_mains;
-  std::uint32_t m_mainCount = 0;
   std::vector<Row> m_rows;
 };
 
