@@ -19,6 +19,9 @@ namespace Nelmo::Log {
 
 inline constexpr std::string_view ConverterFile = "KnxConverter";
 inline constexpr std::string_view FacadeFile = "KnxValueConverter";
+// The facade's functions, as its messages name them.
+inline constexpr std::string_view ToKnxFunction = "ToKnxValue";
+inline constexpr std::string_view FromKnxFunction = "FromKnxValue";
 
 // The string stream a message is composed in: the thread's own, kept from
 // message to message, since setting one up costs more than composing most

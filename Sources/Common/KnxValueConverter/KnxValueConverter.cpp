@@ -13,8 +13,9 @@ namespace Nelmo {
 
 namespace {
 
-constexpr std::string_view ToKnxFunction = "ToKnxValue";
-constexpr std::string_view FromKnxFunction = "FromKnxValue";
+using Log::FromKnxFunction;
+using Log::ToKnxFunction;
+
 // Values of up to 6 bits travel inside the telegram's control field.
 constexpr std::uint32_t ControlFieldBits = 6;
 constexpr std::uint32_t VariableLength = static_cast<std::uint32_t>(KnxDptFormat::VariableLength);
