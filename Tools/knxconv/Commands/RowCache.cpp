@@ -11,6 +11,9 @@ const CachedRow& RowCache::Find(const Nelmo::KnxValueConverter& converter, const
   auto found = m_rows.find(key);
   if (found == m_rows.end()) {
     const Nelmo::DptValueEntry& entry = QuietEntry(converter, dpt);
+    if (m_rows.size() >= Capacity) {
+      m_rows.clear();
+    }
     found = m_rows.emplace(key, CachedRow{&entry, ScaleOf(entry.GetConverter()), SubtypeOf(dpt)}).first;
   }
   return found->second;

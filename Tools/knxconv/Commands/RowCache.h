@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <unordered_map>
 
@@ -18,11 +19,17 @@ struct CachedRow {
 };
 
 // Rows looked up once per DPT: a trace shows the row's sub-type, number
-// display and catalogue entry for each telegram, and its telegrams name few DPTs. One cache
-// serves one converter, whose table does not change while it is used.
+// display and catalogue entry for each telegram, and its telegrams name few
+// DPTs. Holds at most Capacity rows, so that a trace of ever new sub numbers
+// keeps its memory constant. One cache serves one converter, whose table
+// does not change while it is used.
 class RowCache {
  public:
+  static constexpr std::size_t Capacity = 256;
+
   const CachedRow& Find(const Nelmo::KnxValueConverter& converter, const KNXDPT& dpt);
+  // How many rows it holds now.
+  std::size_t Size() const { return m_rows.size(); }
 
  private:
   // Main and sub number: the bit size plays no part in the lookup.

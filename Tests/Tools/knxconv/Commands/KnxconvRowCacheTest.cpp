@@ -42,4 +42,18 @@ TEST(RowCache, AnswersWithTheLibrarysRowAndItsScale) {
   }
 }
 
+// Every sub number of 9.x has a row (9.x answers for those without one of
+// their own): the cache holds no more than its capacity, and still answers
+// with the library's row.
+TEST(RowCache, HoldsNoMoreThanItsCapacity) {
+  const Nelmo::KnxValueConverter converter;
+  RowCache rows;
+  for (std::uint16_t sub = 1; sub <= 3 * RowCache::Capacity; ++sub) {
+    const KNXDPT dpt = MakeDpt(9, sub);
+    EXPECT_EQ(rows.Find(converter, dpt).entry, &QuietEntry(converter, dpt)) << "9." << sub;
+    EXPECT_LE(rows.Size(), RowCache::Capacity) << "9." << sub;
+  }
+  EXPECT_GT(rows.Size(), 0u);
+}
+
 }  // namespace
