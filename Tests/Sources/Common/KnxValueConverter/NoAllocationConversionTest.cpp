@@ -14,6 +14,7 @@
 #include "KnxValueConverter.h"
 #include "LogCapture.h"
 #include "RangeRows.h"
+#include "StandardRowSamples.h"
 
 namespace {
 
@@ -85,6 +86,29 @@ TEST_F(NoAllocation, AnActiveLogDoesAllocate) {
   const ULOVALUE temperature = ULOVALUE::Double(21.5);
   KnxStack::GroupValue groupValue;
   EXPECT_GT(CountedAllocations::During([&] { m_facade.ToKnxValue(KNXDPT{16, 99, 1}, temperature, groupValue); }), 0);
+}
+
+// The standard table, whose rows reach their converters directly: every row
+// but the texts, both ways, with the samples' values and bytes.
+TEST(NoAllocationStandardRows, EveryRowButTheTextsBothWays) {
+  const Nelmo::KnxValueConverter facade;
+  Nelmo::DptValueMap::GetEmptyEntry();
+  const TestSupport::LogCapture capture(ULO_LOG_OFF);
+  KnxStack::GroupValue sent;
+  ULOVALUE received;
+  for (const TestSupport::RowSample& sample : TestSupport::StandardRowSamples()) {
+    if (sample.value.GetType() == IVT_STRING) {
+      continue;
+    }
+    SCOPED_TRACE(sample.name);
+    const KnxStack::GroupValue bytes = GroupOf(sample.bytes, sample.dpt.bitSize);
+    bool toKnx = false;
+    bool fromKnx = false;
+    EXPECT_EQ(CountedAllocations::During([&] { toKnx = facade.ToKnxValue(sample.dpt, sample.value, sent); }), 0);
+    EXPECT_EQ(CountedAllocations::During([&] { fromKnx = facade.FromKnxValue(sample.dpt, bytes, received); }), 0);
+    EXPECT_TRUE(toKnx);
+    EXPECT_TRUE(fromKnx);
+  }
 }
 
 }  // namespace
