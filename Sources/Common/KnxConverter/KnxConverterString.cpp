@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <string>
 
+#include "CodingUtf8.h"
 #include "ConverterCallsOf.h"
 #include "ConverterLog.h"
 
@@ -15,9 +16,7 @@ namespace {
 constexpr std::uint16_t CharacterMainNumber = 4;
 
 constexpr std::size_t String14Bytes = 14;
-constexpr unsigned char TwoByteLeadMask = 0xE0;
-constexpr unsigned char TwoByteLead = 0xC0;
-constexpr unsigned char TrailBits = 0x3F;
+// Bytes from here on are two bytes in UTF-8.
 constexpr unsigned char TrailMark = 0x80;
 
 // The range's bounds read once for a whole text, not once per byte.
@@ -29,21 +28,6 @@ struct CharacterSet {
   std::int32_t highest;
 };
 
-// The single byte of a two-byte UTF-8 sequence at cursor, or the byte
-// itself; cursor is left on the sequence's last byte. A lead right before
-// the terminator combines with the zero, and the walk ends after it.
-unsigned char SingleByte(const char*& cursor) {
-  const auto byte = static_cast<unsigned char>(*cursor);
-  if ((byte & TwoByteLeadMask) != TwoByteLead) {
-    return byte;
-  }
-  const auto next = static_cast<unsigned char>(cursor[1]);
-  if (next != 0) {
-    ++cursor;
-  }
-  return static_cast<unsigned char>(((byte << 6U) & 0xFFU) | (next & TrailBits));
-}
-
 // The bus bytes of text, in one pass: each character as its single byte,
 // bytes outside the set dropped, at most the 14 that travel. Collected in an
 // array and made a string once, which costs less than growing it by bytes.
@@ -51,7 +35,7 @@ std::string ToString14(const CharacterSet& set, const std::string& text) {
   std::array<char, String14Bytes> bytes{};
   std::size_t count = 0;
   for (const char* cursor = text.c_str(); *cursor != '\0' && count < String14Bytes; ++cursor) {
-    const unsigned char byte = SingleByte(cursor);
+    const unsigned char byte = CodingUtf8::SingleByte(cursor);
     if (set.Contains(byte)) {
       bytes[count++] = static_cast<char>(byte);
     }
@@ -61,21 +45,13 @@ std::string ToString14(const CharacterSet& set, const std::string& text) {
 
 // A Latin-1 character as UTF-8 in out: itself below 0x80, else a lead and a
 // trail byte. Returns the count.
-unsigned char LeadOf(unsigned char byte) {
-  return static_cast<unsigned char>(TwoByteLead | (byte >> 6U));
-}
-
-unsigned char TrailOf(unsigned char byte) {
-  return static_cast<unsigned char>(TrailMark | (byte & TrailBits));
-}
-
 std::size_t EncodeLatin1(unsigned char byte, std::array<char, 2>& out) {
   if (byte < TrailMark) {
     out[0] = static_cast<char>(byte);
     return 1;
   }
-  out[0] = static_cast<char>(LeadOf(byte));
-  out[1] = static_cast<char>(TrailOf(byte));
+  out[0] = static_cast<char>(CodingUtf8::Latin1Lead(byte));
+  out[1] = static_cast<char>(CodingUtf8::Latin1Trail(byte));
   return 2;
 }
 
@@ -98,8 +74,8 @@ std::string FromString14(const CharacterSet& set, const std::string& received) {
       keep(byte);
       continue;
     }
-    keep(LeadOf(byte));
-    keep(TrailOf(byte));
+    keep(CodingUtf8::Latin1Lead(byte));
+    keep(CodingUtf8::Latin1Trail(byte));
   }
   return std::string(text.data(), count);
 }
@@ -118,7 +94,7 @@ bool KnxConverter8BitString::ToKnxValue(const KNXDPT& dpt, const ULOVALUE& value
   }
   // Only the first character travels; an empty text sends 0.
   const char* cursor = value.GetString().c_str();
-  const unsigned char character = *cursor == '\0' ? 0 : SingleByte(cursor);
+  const unsigned char character = *cursor == '\0' ? 0 : CodingUtf8::SingleByte(cursor);
   if (!CharacterSet(m_range).Contains(character)) {
     return false;
   }
