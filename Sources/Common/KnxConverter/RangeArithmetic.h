@@ -4,6 +4,7 @@
 
 #include <cmath>
 #include <cstdint>
+#include <cstring>
 #include <limits>
 #include <type_traits>
 
@@ -65,13 +66,22 @@ Int ScaleFromRounded(double value, double externalMinimum, double factor, double
   return RoundToInteger<Int>(internalMinimum + (value - externalMinimum) / factor);
 }
 
+// factor == 1.0, read as the one bit pattern that equals 1.0: an integer
+// comparison, without the floating-point compare's unordered case.
+inline bool IsOne(double factor) {
+  constexpr std::uint64_t oneBits = 0x3FF0000000000000u;
+  std::uint64_t bits = 0;
+  std::memcpy(&bits, &factor, sizeof bits);
+  return bits == oneBits;
+}
+
 // Whether scaling value between these minimums by factor gives value back:
 // a factor of 1 between equal minimums, with numbers small enough that the
 // double arithmetic above is exact. Callers skip that arithmetic then; the
 // result is the same number.
 template <typename Int>
 bool ScalesToItself(Int value, Int fromMinimum, double factor, Int toMinimum) {
-  if (factor != 1.0 || fromMinimum != toMinimum) {
+  if (fromMinimum != toMinimum || !IsOne(factor)) {
     return false;
   }
   if constexpr (sizeof(Int) <= sizeof(std::int32_t)) {
