@@ -3,9 +3,18 @@
 #include <algorithm>
 #include <cstddef>
 
+#include "ConverterCalls.h"
 #include "KnxDptFormat.h"
 
 namespace Nelmo {
+
+namespace {
+
+// Values of up to 6 bits travel inside the telegram's control field; the
+// general path re-sizes them first.
+constexpr std::uint32_t ControlFieldBits = 6;
+
+}  // namespace
 
 void DptRowIndex::Widen(Span& span, std::uint16_t count) {
   if (count > span.capacity) {
@@ -23,6 +32,17 @@ void DptRowIndex::Widen(Span& span, std::uint16_t count) {
   span.count = count;
 }
 
+// The empty places of a main type convert directly as its main.x row does.
+void DptRowIndex::InheritMainRow(const Span& span) {
+  Row inherited = m_rows[span.first];
+  inherited.entry = nullptr;
+  for (std::uint32_t place = span.first + 1; place < span.first + span.count; ++place) {
+    if (m_rows[place].entry == nullptr) {
+      m_rows[place] = inherited;
+    }
+  }
+}
+
 void DptRowIndex::Add(const KNXDPT& dpt, const DptValueEntry& entry, const ConverterCalls* calls) {
   if (dpt.subNumber >= DenseSubNumbers) {
     return;
@@ -36,8 +56,20 @@ void DptRowIndex::Add(const KNXDPT& dpt, const DptValueEntry& entry, const Conve
   }
   // The size depends on the main number alone, so the main.x row answers
   // for its sub numbers with the same size.
-  m_rows[span.first + dpt.subNumber] = Row{&entry, static_cast<std::uint32_t>(KnxDptFormat::GetBitSize(dpt)),
-                                           entry.valueType, entry.GetConverter(), calls};
+  Row row;
+  row.converter = entry.GetConverter();
+  row.valueType = entry.valueType;
+  row.expectedBitSize = static_cast<std::uint32_t>(KnxDptFormat::GetBitSize(dpt));
+  row.entry = &entry;
+  // Main number 0 is completed from the value first, on the general path.
+  if (calls != nullptr && dpt.mainNumber != 0) {
+    row.directType = static_cast<std::int64_t>(entry.valueType);
+    row.directBitSize = row.expectedBitSize != ControlFieldBits ? row.expectedBitSize : NoDirectBitSize;
+    row.send = calls->send;
+    row.receive = calls->receive;
+  }
+  m_rows[span.first + dpt.subNumber] = row;
+  InheritMainRow(span);
 }
 
 }  // namespace Nelmo

@@ -1,9 +1,11 @@
 #pragma once
 
 #include <cstdint>
+#include <limits>
 #include <vector>
 
 #include "DptValueEntry.h"
+#include "KnxStack.h"
 #include "UloPlatform.h"
 
 namespace Nelmo {
@@ -18,14 +20,35 @@ struct ConverterCalls;
 // to the table itself.
 class DptRowIndex {
  public:
+  // Wider than any value type and any bit size, so never equal to one.
+  static constexpr std::int64_t NoDirectType = std::numeric_limits<std::int64_t>::min();
+  static constexpr std::uint64_t NoDirectBitSize = std::numeric_limits<std::uint64_t>::max();
+
+  // A standard converter's own calls (their failures reported as the facade
+  // reports them), compiled beside its class.
+  using SendCall = bool (*)(KnxConverter& converter, const KNXDPT& dpt, const ULOVALUE& value,
+                            KnxStack::GroupValue& groupValue);
+  using ReceiveCall = bool (*)(KnxConverter& converter, const KNXDPT& dpt, const KnxStack::GroupValue& groupValue,
+                               ULOVALUE& value);
+
   struct Row {
-    const DptValueEntry* entry = nullptr;
-    std::uint32_t expectedBitSize = 0;
+    // Read first by every conversion: a value of directType goes straight to
+    // send, a group value of directBitSize bits straight to receive. Set for
+    // a row of the standard table, whose converter's class is known, and
+    // copied into the empty places of its main type when it is the main.x
+    // row; elsewhere they match nothing.
+    std::int64_t directType = NoDirectType;
+    std::uint64_t directBitSize = NoDirectBitSize;
+    SendCall send = nullptr;
+    ReceiveCall receive = nullptr;
+    KnxConverter* converter = nullptr;
     // Copied from the entry, so that a conversion reads one place.
     UloValueType valueType = IVT_ANY;
-    KnxConverter* converter = nullptr;
-    // Set for a row of the standard table, whose converter's class is known.
-    const ConverterCalls* calls = nullptr;
+    std::uint32_t expectedBitSize = 0;
+    // Null for a place without a row of its own.
+    const DptValueEntry* entry = nullptr;
+    // A row of 64 bytes is found with a shift.
+    const void* unused = nullptr;
   };
 
   // Sub numbers from this one on are not indexed; their rows are found in
@@ -43,25 +66,28 @@ class DptRowIndex {
   // The row of dpt, or its main.x row where dpt's sub number has none; an
   // empty Row where the index cannot tell.
   Row Find(const KNXDPT& dpt) const {
-    const Row* row = Slot(dpt);
-    if (row == nullptr || row->entry == nullptr) {
-      row = MainRow(dpt);
-    }
-    return row != nullptr ? *row : Row();
-  }
-
-  // As Find, where the answer is a standard row; else null. Every
-  // conversion asks this first, so the common case reads two places.
-  const Row* FindStandard(const KNXDPT& dpt) const {
-    const Row* row = Slot(dpt);
-    if (row != nullptr && row->calls != nullptr) {
+    const Row& row = Place(dpt);
+    if (row.entry != nullptr) {
       return row;
     }
-    if (row != nullptr && row->entry != nullptr) {
-      return nullptr;
+    const Row& main = MainPlace(dpt);
+    return main.entry != nullptr ? main : Row();
+  }
+
+  // The place that decides whether dpt converts directly: its row, its
+  // main.x row's direct calls, or nothing that matches. Every conversion
+  // asks this first, so the common case reads two places.
+  const Row& Direct(const KNXDPT& dpt) const {
+    if (dpt.mainNumber < m_mains.size()) {
+      const Span span = m_mains[dpt.mainNumber];
+      if (dpt.subNumber < span.count) {
+        return m_rows[span.first + dpt.subNumber];
+      }
+      if (span.count != 0 && dpt.subNumber < DenseSubNumbers) {
+        return m_rows[span.first];
+      }
     }
-    row = MainRow(dpt);
-    return row != nullptr && row->calls != nullptr ? row : nullptr;
+    return NothingRow;
   }
 
  private:
@@ -73,24 +99,32 @@ class DptRowIndex {
     std::uint16_t capacity = 0;
   };
 
-  void Widen(Span& span, std::uint16_t count);
+  // What a place without a row answers.
+  static const Row NothingRow;
 
-  // The place of dpt's own row, possibly empty; null where there is none.
-  const Row* Slot(const KNXDPT& dpt) const {
-    if (dpt.mainNumber >= m_mains.size()) {
-      return nullptr;
+  void Widen(Span& span, std::uint16_t count);
+  void InheritMainRow(const Span& span);
+
+  // dpt's own place, possibly empty.
+  const Row& Place(const KNXDPT& dpt) const {
+    if (dpt.mainNumber < m_mains.size()) {
+      const Span span = m_mains[dpt.mainNumber];
+      if (dpt.subNumber < span.count) {
+        return m_rows[span.first + dpt.subNumber];
+      }
     }
-    const Span& span = m_mains[dpt.mainNumber];
-    return dpt.subNumber < span.count ? &m_rows[span.first + dpt.subNumber] : nullptr;
+    return NothingRow;
   }
 
-  // The main.x row that answers for dpt's sub number, possibly empty.
-  const Row* MainRow(const KNXDPT& dpt) const {
-    if (dpt.subNumber == 0 || dpt.subNumber >= DenseSubNumbers || dpt.mainNumber >= m_mains.size()) {
-      return nullptr;
+  // The main.x place that answers for dpt's sub number, possibly empty.
+  const Row& MainPlace(const KNXDPT& dpt) const {
+    if (dpt.subNumber < DenseSubNumbers && dpt.mainNumber < m_mains.size()) {
+      const Span span = m_mains[dpt.mainNumber];
+      if (span.count != 0) {
+        return m_rows[span.first];
+      }
     }
-    const Span& span = m_mains[dpt.mainNumber];
-    return span.count != 0 && m_rows[span.first].entry != nullptr ? &m_rows[span.first] : nullptr;
+    return NothingRow;
   }
 
   // All rows in one array (no vector per main number): a lookup reads no
@@ -98,5 +132,7 @@ class DptRowIndex {
   std::vector<Span> m_mains;
   std::vector<Row> m_rows;
 };
+
+inline constexpr DptRowIndex::Row DptRowIndex::NothingRow{};
 
 }  // namespace Nelmo

@@ -73,8 +73,12 @@ const DptValueEntry& DptValueMap::GetEntry(const KNXDPT& dpt) const {
 
 DptRowIndex::Row DptValueMap::FindRowInTree(const KNXDPT& dpt) const {
   const DptValueEntry& entry = GetEntry(dpt);
-  return DptRowIndex::Row{&entry, static_cast<std::uint32_t>(KnxDptFormat::GetBitSize(dpt)), entry.valueType,
-                          entry.GetConverter()};
+  DptRowIndex::Row row;
+  row.converter = entry.GetConverter();
+  row.valueType = entry.valueType;
+  row.expectedBitSize = static_cast<std::uint32_t>(KnxDptFormat::GetBitSize(dpt));
+  row.entry = &entry;
+  return row;
 }
 
 DptValueEntry& DptValueMap::GetEmptyEntry() {

@@ -40,9 +40,8 @@ class NELMO_EXPORT DptValueMap {
     const DptRowIndex::Row row = m_index.Find(dpt);
     return row.entry != nullptr ? row : FindRowInTree(dpt);
   }
-  // FindRow's answer where it is a standard row that the index holds; else
-  // null.
-  const DptRowIndex::Row* FindStandardRow(const KNXDPT& dpt) const { return m_index.FindStandard(dpt); }
+  // The place that decides whether dpt converts directly (DptRowIndex::Direct).
+  const DptRowIndex::Row& FindDirectRow(const KNXDPT& dpt) const { return m_index.Direct(dpt); }
   bool Clear();
   // Every row, ordered by main and sub number, for listing the table.
   const MainNumberMap& GetEntries() const { return m_map; }

@@ -402,22 +402,19 @@ bool KnxValueConverter::Clear() {
 bool KnxValueConverter::ToKnxValue(const KNXDPT& dpt, const ULOVALUE& value, KnxStack::GroupValue& groupValue) const {
   // A standard row that takes the value's type as it is needs none of the
   // general path's steps: straight to its converter.
-  const DptRowIndex::Row* row = m_dptValueMap.FindStandardRow(dpt);
-  if (row != nullptr && row->valueType == value.GetType()) {
-    return row->calls->send(*row->converter, dpt, value, groupValue);
+  const DptRowIndex::Row& row = m_dptValueMap.FindDirectRow(dpt);
+  if (row.directType == static_cast<std::int64_t>(value.GetType())) {
+    return row.send(*row.converter, dpt, value, groupValue);
   }
   return SendInGeneral(*this, dpt, value, groupValue);
 }
 
 bool KnxValueConverter::FromKnxValue(const KNXDPT& dpt, const KnxStack::GroupValue& groupValue, ULOVALUE& value) const {
   // Likewise for a standard row and a group value of the size it expects.
-  const DptRowIndex::Row* row = m_dptValueMap.FindStandardRow(dpt);
-  if (row != nullptr) {
-    const std::uint32_t defined = groupValue.GetDefinedSize();
-    if (defined == row->expectedBitSize && defined != ControlFieldBits) {
-      value.SetType(row->valueType);
-      return row->calls->receive(*row->converter, dpt, groupValue, value);
-    }
+  const DptRowIndex::Row& row = m_dptValueMap.FindDirectRow(dpt);
+  if (row.directBitSize == groupValue.GetDefinedSize()) {
+    value.SetType(row.valueType);
+    return row.receive(*row.converter, dpt, groupValue, value);
   }
   return ReceiveInGeneral(*this, dpt, groupValue, value);
 }
