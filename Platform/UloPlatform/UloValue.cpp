@@ -2,7 +2,6 @@
 
 #include <charconv>
 #include <cmath>
-#include <cstdio>
 #include <optional>
 #include <string_view>
 #include <system_error>
@@ -403,20 +402,43 @@ std::string FormatDouble(double value) {
   return result;
 }
 
+// value in decimal, zero-padded to at least width digits, as "%0*u" writes it.
+void AppendPadded(std::string& text, unsigned int value, std::size_t width) {
+  char digits[10];
+  const char* const end = std::to_chars(digits, digits + sizeof digits, value).ptr;
+  const auto length = static_cast<std::size_t>(end - digits);
+  if (length < width) {
+    text.append(width - length, '0');
+  }
+  text.append(digits, length);
+}
+
+void AppendDate(std::string& text, const ULOTIME& time) {
+  AppendPadded(text, time.year, 4);
+  text += '-';
+  AppendPadded(text, time.month, 2);
+  text += '-';
+  AppendPadded(text, time.day, 2);
+}
+
+void AppendTime(std::string& text, const ULOTIME& time) {
+  AppendPadded(text, time.hour, 2);
+  text += ':';
+  AppendPadded(text, time.minute, 2);
+  text += ':';
+  AppendPadded(text, time.second, 2);
+}
+
 std::string FormatTime(Payload payload, const ULOTIME& time) {
-  char text[48];
-  const auto year = static_cast<unsigned int>(time.year);
-  const auto month = static_cast<unsigned int>(time.month);
-  const auto day = static_cast<unsigned int>(time.day);
-  const auto hour = static_cast<unsigned int>(time.hour);
-  const auto minute = static_cast<unsigned int>(time.minute);
-  const auto second = static_cast<unsigned int>(time.second);
-  if (payload == Payload::Date) {
-    std::snprintf(text, sizeof text, "%04u-%02u-%02u", year, month, day);
-  } else if (payload == Payload::Time) {
-    std::snprintf(text, sizeof text, "%02u:%02u:%02u", hour, minute, second);
-  } else {
-    std::snprintf(text, sizeof text, "%04u-%02u-%02u %02u:%02u:%02u", year, month, day, hour, minute, second);
+  std::string text;
+  if (payload != Payload::Time) {
+    AppendDate(text, time);
+  }
+  if (payload == Payload::DateTime) {
+    text += ' ';
+  }
+  if (payload != Payload::Date) {
+    AppendTime(text, time);
   }
   return text;
 }
