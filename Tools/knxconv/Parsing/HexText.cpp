@@ -52,7 +52,8 @@ KnxStack::BinaryData ParseHex(std::string_view text) {
 
 std::optional<std::string> ReadHex(std::string_view text, KnxStack::BinaryData& data) {
   // Two digits a byte: a payload of a trace line fits the stack.
-  std::array<unsigned char, ShortBytes> shortBytes{};
+  // NOLINTNEXTLINE(cppcoreguidelines-pro-type-member-init): only the bytes read are written and used
+  std::array<unsigned char, ShortBytes> shortBytes;
   std::vector<unsigned char> longBytes;
   unsigned char* bytes = shortBytes.data();
   if (text.size() / 2 > shortBytes.size()) {
