@@ -301,6 +301,10 @@ void TimeFrom(const GroupValue& groupValue, ULOVALUE& value) {
   int second = 0;
   DayOfWeek dayOfWeek = GroupValue::NoDay;
   groupValue.GetAsTimeOfDay(&hour, &minute, &second, WithWeekday ? &dayOfWeek : nullptr);
+  if (!ULOTIME::IsValidTime(static_cast<unsigned char>(hour), static_cast<unsigned char>(minute),
+                            static_cast<unsigned char>(second))) {
+    return;
+  }
   ULOTIME& time = value.GetTime();
   time.Clear(true);
   time.SetTime(static_cast<unsigned char>(hour), static_cast<unsigned char>(minute), static_cast<unsigned char>(second),
@@ -320,6 +324,10 @@ void DateFrom(const GroupValue& groupValue, ULOVALUE& value) {
   int month = 0;
   int year = 0;
   groupValue.GetAsDate(&day, &month, &year);
+  if (!ULOTIME::IsValidDate(static_cast<unsigned short>(year), static_cast<unsigned char>(month),
+                            static_cast<unsigned char>(day))) {
+    return;
+  }
   ULOTIME& time = value.GetTime();
   time.Clear(true);
   time.SetDate(static_cast<unsigned short>(year), static_cast<unsigned char>(month), static_cast<unsigned char>(day),
@@ -346,10 +354,16 @@ void DateTimeFrom(const GroupValue& groupValue, ULOVALUE& value) {
   time.day = static_cast<std::uint8_t>(fields[0]);
   time.month = static_cast<std::uint8_t>(fields[1]);
   time.year = static_cast<std::uint16_t>(fields[2]);
-  time.hour = static_cast<std::uint8_t>(fields[3]);
-  time.minute = static_cast<std::uint8_t>(fields[4]);
-  time.second = static_cast<std::uint8_t>(fields[5]);
   time.weekday = ULO::Weekdays::GetWeekdayFromMonday1ToSunday7(static_cast<unsigned char>(dayOfWeek));
+  const auto hour = static_cast<std::uint8_t>(fields[3]);
+  const auto minute = static_cast<std::uint8_t>(fields[4]);
+  const auto second = static_cast<std::uint8_t>(fields[5]);
+  if (!ULOTIME::IsValidTime(hour, minute, second)) {
+    return;
+  }
+  time.hour = hour;
+  time.minute = minute;
+  time.second = second;
 }
 
 // --- scenes -----------------------------------------------------------------
