@@ -32,11 +32,12 @@ void DptRowIndex::Widen(Span& span, std::uint16_t count) {
   span.count = count;
 }
 
-// The empty places of a main type convert directly as its main.x row does.
-void DptRowIndex::InheritMainRow(const Span& span) {
+// The empty places of a main type, from sub number from on, convert directly
+// as its main.x row does.
+void DptRowIndex::InheritMainRow(const Span& span, std::uint16_t from) {
   Row inherited = m_rows[span.first];
   inherited.entry = nullptr;
-  for (std::uint32_t place = span.first + 1; place < span.first + span.count; ++place) {
+  for (std::uint32_t place = span.first + std::max<std::uint16_t>(from, 1); place < span.first + span.count; ++place) {
     if (m_rows[place].entry == nullptr) {
       m_rows[place] = inherited;
     }
@@ -51,6 +52,7 @@ void DptRowIndex::Add(const KNXDPT& dpt, const DptValueEntry& entry, const Conve
     m_mains.resize(static_cast<std::size_t>(dpt.mainNumber) + 1);
   }
   Span& span = m_mains[dpt.mainNumber];
+  const std::uint16_t placesBefore = span.count;
   if (dpt.subNumber >= span.count) {
     Widen(span, static_cast<std::uint16_t>(dpt.subNumber + 1));
   }
@@ -69,7 +71,9 @@ void DptRowIndex::Add(const KNXDPT& dpt, const DptValueEntry& entry, const Conve
     row.receive = calls->receive;
   }
   m_rows[span.first + dpt.subNumber] = row;
-  InheritMainRow(span);
+  // A new main.x row reaches every empty place; a sub row only the places
+  // it has just opened.
+  InheritMainRow(span, dpt.subNumber == 0 ? 1 : placesBefore);
 }
 
 }  // namespace Nelmo

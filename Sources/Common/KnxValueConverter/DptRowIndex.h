@@ -103,7 +103,7 @@ class DptRowIndex {
   static const Row NothingRow;
 
   void Widen(Span& span, std::uint16_t count);
-  void InheritMainRow(const Span& span);
+  void InheritMainRow(const Span& span, std::uint16_t from);
 
   // dpt's own place, possibly empty.
   const Row& Place(const KNXDPT& dpt) const {
