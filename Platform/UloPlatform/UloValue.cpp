@@ -413,32 +413,27 @@ void AppendPadded(std::string& text, unsigned int value, std::size_t width) {
   text.append(digits, length);
 }
 
-void AppendDate(std::string& text, const ULOTIME& time) {
-  AppendPadded(text, time.year, 4);
-  text += '-';
-  AppendPadded(text, time.month, 2);
-  text += '-';
-  AppendPadded(text, time.day, 2);
-}
-
-void AppendTime(std::string& text, const ULOTIME& time) {
-  AppendPadded(text, time.hour, 2);
-  text += ':';
-  AppendPadded(text, time.minute, 2);
-  text += ':';
-  AppendPadded(text, time.second, 2);
+// Three fields between separators, "YYYY-MM-DD" or "hh:mm:ss": the first
+// padded to firstWidth digits, the others to two.
+void AppendFields(std::string& text, unsigned int first, std::size_t firstWidth, unsigned int second,
+                  unsigned int third, char separator) {
+  AppendPadded(text, first, firstWidth);
+  text += separator;
+  AppendPadded(text, second, 2);
+  text += separator;
+  AppendPadded(text, third, 2);
 }
 
 std::string FormatTime(Payload payload, const ULOTIME& time) {
   std::string text;
   if (payload != Payload::Time) {
-    AppendDate(text, time);
+    AppendFields(text, time.year, 4, time.month, time.day, '-');
   }
   if (payload == Payload::DateTime) {
     text += ' ';
   }
   if (payload != Payload::Date) {
-    AppendTime(text, time);
+    AppendFields(text, time.hour, 2, time.minute, time.second, ':');
   }
   return text;
 }
