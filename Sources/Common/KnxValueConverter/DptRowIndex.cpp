@@ -16,6 +16,15 @@ constexpr std::uint32_t ControlFieldBits = 6;
 
 }  // namespace
 
+DptRowIndex::Row DptRowIndex::GeneralRow(const KNXDPT& dpt, const DptValueEntry& entry) {
+  Row row;
+  row.converter = entry.GetConverter();
+  row.valueType = entry.valueType;
+  row.expectedBitSize = static_cast<std::uint32_t>(KnxDptFormat::GetBitSize(dpt));
+  row.entry = &entry;
+  return row;
+}
+
 void DptRowIndex::Widen(Span& span, std::uint16_t count) {
   if (count > span.capacity) {
     // Moved to the end with room to double, so that rows added in order of
@@ -58,11 +67,7 @@ void DptRowIndex::Add(const KNXDPT& dpt, const DptValueEntry& entry, const Conve
   }
   // The size depends on the main number alone, so the main.x row answers
   // for its sub numbers with the same size.
-  Row row;
-  row.converter = entry.GetConverter();
-  row.valueType = entry.valueType;
-  row.expectedBitSize = static_cast<std::uint32_t>(KnxDptFormat::GetBitSize(dpt));
-  row.entry = &entry;
+  Row row = GeneralRow(dpt, entry);
   // Main number 0 is completed from the value first, on the general path.
   if (calls != nullptr && dpt.mainNumber != 0) {
     row.directType = static_cast<std::int64_t>(entry.valueType);

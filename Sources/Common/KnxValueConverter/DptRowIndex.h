@@ -31,7 +31,8 @@ class DptRowIndex {
   using ReceiveCall = bool (*)(KnxConverter& converter, const KNXDPT& dpt, const KnxStack::GroupValue& groupValue,
                                ULOVALUE& value);
 
-  struct Row {
+  // 64 bytes, so that a row is found with a shift.
+  struct alignas(64) Row {
     // Read first by every conversion: a value of directType goes straight to
     // send, a group value of directBitSize bits straight to receive. Set for
     // a row of the standard table, whose converter's class is known, and
@@ -47,9 +48,10 @@ class DptRowIndex {
     std::uint32_t expectedBitSize = 0;
     // Null for a place without a row of its own.
     const DptValueEntry* entry = nullptr;
-    // A row of 64 bytes is found with a shift.
-    const void* unused = nullptr;
   };
+
+  // entry's row as the general path reads it: no direct calls.
+  static Row GeneralRow(const KNXDPT& dpt, const DptValueEntry& entry);
 
   // Sub numbers from this one on are not indexed; their rows are found in
   // the table.

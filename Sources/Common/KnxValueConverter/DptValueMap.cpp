@@ -5,7 +5,6 @@
 
 #include "ConverterLog.h"
 #include "KnxConverterDefault.h"
-#include "KnxDptFormat.h"
 
 namespace Nelmo {
 
@@ -72,13 +71,7 @@ const DptValueEntry& DptValueMap::GetEntry(const KNXDPT& dpt) const {
 }
 
 DptRowIndex::Row DptValueMap::FindRowInTree(const KNXDPT& dpt) const {
-  const DptValueEntry& entry = GetEntry(dpt);
-  DptRowIndex::Row row;
-  row.converter = entry.GetConverter();
-  row.valueType = entry.valueType;
-  row.expectedBitSize = static_cast<std::uint32_t>(KnxDptFormat::GetBitSize(dpt));
-  row.entry = &entry;
-  return row;
+  return DptRowIndex::GeneralRow(dpt, GetEntry(dpt));
 }
 
 DptValueEntry& DptValueMap::GetEmptyEntry() {
