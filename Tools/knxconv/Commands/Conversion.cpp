@@ -51,11 +51,7 @@ KnxStack::BinaryData PayloadBytes(const std::string& payload) {
 
 // The row of dpt: from rows where given, else looked up with its scale.
 CachedRow RowOf(const Nelmo::KnxValueConverter& converter, const KNXDPT& dpt, RowCache* rows) {
-  if (rows != nullptr) {
-    return rows->Find(converter, dpt);
-  }
-  const Nelmo::DptValueEntry& entry = QuietEntry(converter, dpt);
-  return {&entry, ScaleOf(entry.GetConverter()), SubtypeOf(dpt)};
+  return rows != nullptr ? rows->Find(converter, dpt) : LookUpRow(converter, dpt);
 }
 
 // ConvertGroupValue, the row found through rows where given.

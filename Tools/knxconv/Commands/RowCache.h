@@ -18,6 +18,9 @@ struct CachedRow {
   const Nelmo::DptSubtype* subtype = nullptr;
 };
 
+// dpt's row, looked up now.
+CachedRow LookUpRow(const Nelmo::KnxValueConverter& converter, const KNXDPT& dpt);
+
 // Rows looked up once per DPT: a trace shows the row's sub-type, number
 // display and catalogue entry for each telegram, and its telegrams name few
 // DPTs. Holds at most Capacity rows, so that a trace of ever new sub numbers

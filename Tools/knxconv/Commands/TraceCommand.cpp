@@ -32,14 +32,7 @@ struct Decoder {
 // telegram to telegram.
 void DecodeTelegram(Decoder& decoder, OutputContext& context, TraceResult& result) {
   const Telegram& telegram = result.telegram;
-  result.dpt.reset();
-  result.converted = false;
-  result.value = ULOVALUE();
-  result.text.clear();
-  result.subType = UloDP::IVST_NONE;
-  result.catalogueSubtype.reset();
-  result.bytes.clear();
-  result.error.clear();
+  result.ClearDecoding();
   if (!telegram.error.empty()) {
     result.error = telegram.error;
     return;

@@ -71,6 +71,19 @@ struct TraceResult {
   // The payload's bytes, once read.
   std::vector<unsigned char> bytes;
   std::string error;
+
+  // Back to nothing decoded, the telegram kept; the strings and the bytes
+  // keep their capacity for the next telegram.
+  void ClearDecoding() {
+    dpt.reset();
+    converted = false;
+    value = ULOVALUE();
+    text.clear();
+    subType = UloDP::IVST_NONE;
+    catalogueSubtype.reset();
+    bytes.clear();
+    error.clear();
+  }
 };
 
 // A decoded value: dpt, type, subtype, value, then the display's members.
